@@ -1,0 +1,137 @@
+-- The tables of the data file. Dates are text (yyyy/mm/dd), amounts are the formatted text
+-- (1.234,56), identities are generated on insertion. Relations go by name, never by key.
+
+CREATE TABLE pagar (
+    "código"    INTEGER PRIMARY KEY AUTOINCREMENT,
+    estatus     TEXT,
+    origem      TEXT,
+    fornecedor  TEXT,
+    data        TEXT,
+    descricao   TEXT,
+    documento   TEXT,
+    informacoes TEXT,
+    Valor       TEXT,
+    vencimento  TEXT,
+    moeda       TEXT,
+    pagamento   TEXT
+);
+
+CREATE TABLE receber (
+    "código"    INTEGER PRIMARY KEY AUTOINCREMENT,
+    estatus     TEXT,
+    origem      TEXT,
+    cliente     TEXT,
+    data        TEXT,
+    descricao   TEXT,
+    documento   TEXT,
+    informacoes TEXT,
+    Valor       TEXT,
+    vencimento  TEXT,
+    moeda       TEXT,
+    pagamento   TEXT
+);
+
+CREATE TABLE bancario (
+    "código"    INTEGER PRIMARY KEY AUTOINCREMENT,
+    estatus     TEXT,
+    origem      TEXT,
+    destino     TEXT,
+    data        TEXT,
+    movimento   TEXT,
+    informacoes TEXT,
+    Valor       TEXT
+);
+
+CREATE TABLE banco (
+    banco       TEXT,
+    informacoes TEXT,
+    saldo       TEXT
+);
+
+CREATE TABLE cliente (
+    "código"   INTEGER PRIMARY KEY AUTOINCREMENT,
+    nome       TEXT,
+    tipo       TEXT,
+    cpf        TEXT,
+    nascimento TEXT,
+    pais       TEXT,
+    estado     TEXT,
+    cidade     TEXT,
+    bairro     TEXT,
+    endereco   TEXT,
+    cep        TEXT,
+    tel        TEXT,
+    tel2       TEXT,
+    cel        TEXT,
+    site       TEXT,
+    email      TEXT,
+    insc       TEXT,
+    local      TEXT,
+    adicionais TEXT
+);
+
+CREATE TABLE fornecedor (
+    "código"   INTEGER PRIMARY KEY AUTOINCREMENT,
+    nome       TEXT,
+    tipo       TEXT,
+    cpf        TEXT,
+    nascimento TEXT,
+    pais       TEXT,
+    estado     TEXT,
+    cidade     TEXT,
+    bairro     TEXT,
+    endereco   TEXT,
+    cep        TEXT,
+    tel        TEXT,
+    tel2       TEXT,
+    cel        TEXT,
+    site       TEXT,
+    email      TEXT,
+    insc       TEXT,
+    local      TEXT,
+    adicionais TEXT
+);
+
+CREATE TABLE pcontapagar (descricao TEXT);
+CREATE TABLE pcontareceber (descricao TEXT);
+
+CREATE TABLE compromisso (
+    data      TEXT,
+    hora      TEXT,
+    Titulo    TEXT,
+    local     TEXT,
+    descricao TEXT
+);
+
+CREATE TABLE login (
+    codigo INTEGER PRIMARY KEY AUTOINCREMENT,
+    nome   TEXT,
+    senha  TEXT
+);
+
+CREATE TABLE login_inicia (exigirlogin TEXT);
+
+CREATE TABLE fpagamento (pagamento TEXT);
+
+CREATE TABLE CamposEtiqueta (
+    "Index" INTEGER,
+    Campo   TEXT,
+    "Top"   INTEGER,
+    "Left"  INTEGER,
+    Width   INTEGER,
+    Formato TEXT
+);
+
+-- The filters of the lists and the balances look rows up by these columns.
+CREATE INDEX pagar_estatus ON pagar (estatus);
+CREATE INDEX pagar_origem ON pagar (origem);
+CREATE INDEX pagar_data ON pagar (data);
+CREATE INDEX pagar_vencimento ON pagar (vencimento);
+CREATE INDEX receber_estatus ON receber (estatus);
+CREATE INDEX receber_origem ON receber (origem);
+CREATE INDEX receber_data ON receber (data);
+CREATE INDEX receber_vencimento ON receber (vencimento);
+CREATE INDEX bancario_origem ON bancario (origem);
+CREATE INDEX bancario_destino ON bancario (destino);
+CREATE INDEX bancario_data ON bancario (data);
+CREATE INDEX bancario_estatus ON bancario (estatus);

@@ -1,0 +1,16 @@
+// Quintara starts at its login window; the login decides when the main window appears.
+#include "platform/prompts_qt.h"
+#include "shell/frmlogin.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quintara"));
+    QApplication::setOrganizationName(QStringLiteral("Quintara"));
+    platform::qt_prompts prompts;
+    platform::set_prompts(&prompts);
+    auto* login = new frmlogin();
+    login->abrir();
+    return QApplication::exec();
+}

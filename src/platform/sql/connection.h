@@ -1,0 +1,45 @@
+#pragma once
+#include "platform/sql/error.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace sql {
+
+// One open data file. Opening with a pass-phrase derives the key once per process and file salt;
+// every later open of the same file uses the raw key, so a connection per action stays cheap.
+class connection {
+public:
+    // Opens an existing encrypted file (never creates one) and checks that the key reads it.
+    static std::shared_ptr<connection> open(const QString& path, const QByteArray& passphrase);
+    // Creates a new encrypted file keyed with the pass-phrase (the file builder and the tests).
+    static std::shared_ptr<connection> create(const QString& path, const QByteArray& passphrase);
+    ~connection();
+    connection(const connection&) = delete;
+    connection& operator=(const connection&) = delete;
+
+    // Runs the first statement of the text, in the old dialect. Throws sql::error.
+    void execute(const QString& statement);
+    // Runs a script of SQLite statements as they stand (schema building only).
+    void execute_script(const QByteArray& script);
+    // Compiles the first statement of the text, in the old dialect.
+    sqlite3_stmt* prepare(const QString& statement);
+    sqlite3* handle() const { return db_; }
+    QString last_error() const;
+
+private:
+    explicit connection(sqlite3* db) : db_(db) {}
+    sqlite3* db_ = nullptr;
+};
+
+using connection_ptr = std::shared_ptr<connection>;
+
+// How long the process has spent deriving keys, and how often (bench and tests).
+int key_derivations();
+
+} // namespace sql

@@ -1,0 +1,67 @@
+#include "store/conexao.h"
+
+#include "platform/clock.h"
+#include "platform/prompts.h"
+#include "store/config.h"
+#include "store/program_dir.h"
+
+namespace store {
+
+sql::connection_ptr conexao;
+qint16 tentativasconexao = 0;
+
+namespace {
+
+QString ultimo_erro;
+
+bool abrir(const QString& caminho, const QString& senha) {
+    try {
+        conexao = sql::connection::open(caminho, senha.toUtf8());
+        return true;
+    } catch (const sql::error& e) {
+        conexao.reset();
+        ultimo_erro = e.description();
+        return false;
+    }
+}
+
+void reconectarbanco(const QString& caminho, const QString& senha) {
+    for (;;) {
+        conexao.reset();
+        if (abrir(caminho, senha)) return;
+        ++tentativasconexao;
+        if (tentativasconexao >= 20) break;
+        platform::sleep_ms(800);
+    }
+    platform::msgbox(
+        QStringLiteral("Não foi possível conectar ao banco de dados, verifique se você está conectado a "
+                       "internet ou rede local e tente novamente. Caso o erro persista entre em contato "
+                       "com o administrador da rede. \nErro: ") +
+            ultimo_erro,
+        platform::critical, QStringLiteral("Erro"));
+    save_setting(secao_config, QStringLiteral("EmRede"), QStringLiteral("0"));
+    save_setting(secao_config, QStringLiteral("RedeLocal"), QStringLiteral("SemRede"));
+    save_setting(secao_config, QStringLiteral("BackupID"), QStringLiteral("0"));
+}
+
+} // namespace
+
+QString caminho_dados(const QString& arquivo) {
+    const QString caminho = setting(secao_config, QStringLiteral("RedeLocal"), QStringLiteral("SemRede"));
+    if (caminho.isEmpty() || caminho == QLatin1String("SemRede")) return program_path(arquivo);
+    return caminho;
+}
+
+void conectarbanco(const QString& arquivo, const QString& senha) {
+    tentativasconexao = 0;
+    const QString caminho = caminho_dados(arquivo);
+    conexao.reset();
+    if (abrir(caminho, senha)) return;
+    reconectarbanco(caminho, senha);
+}
+
+void fecharconexao() {
+    conexao.reset();
+}
+
+} // namespace store

@@ -1,0 +1,15 @@
+#include "store/config.h"
+
+#include "platform/settings.h"
+
+namespace store {
+
+QString setting(const QString& secao, const QString& chave, const QString& padrao) {
+    return platform::get_setting(app_title, secao, chave, padrao);
+}
+
+void save_setting(const QString& secao, const QString& chave, const QString& valor) {
+    platform::save_setting(app_title, secao, chave, valor);
+}
+
+} // namespace store

@@ -1,0 +1,13 @@
+#pragma once
+// Settings of the program (application "Quintara"), read at each use with the default of the call.
+
+#include "store/names.h"
+
+#include <QString>
+
+namespace store {
+
+QString setting(const QString& secao, const QString& chave, const QString& padrao);
+void save_setting(const QString& secao, const QString& chave, const QString& valor);
+
+} // namespace store

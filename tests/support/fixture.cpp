@@ -1,0 +1,71 @@
+#include "support/fixture.h"
+
+#include "platform/settings.h"
+#include "store/conexao.h"
+#include "store/data_file.h"
+#include "store/program_dir.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace support {
+
+void copy_fresh_data_file(const QString& path) {
+    // built once per test program, copied after: the copy keeps its salt, so its key is derived once
+    static QTemporaryDir templ;
+    static const QString made = [] {
+        const QString p = templ.path() + QStringLiteral("/dados.qntbd");
+        store::create_data_file(p);
+        return p;
+    }();
+    QFile::remove(path);
+    if (!QFile::copy(made, path)) throw std::runtime_error("cannot copy the data file");
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+}
+
+void fixture::SetUp() {
+    ASSERT_TRUE(dir_.isValid());
+    copy_fresh_data_file(path(QStringLiteral("dados.qntbd")));
+    QFile::copy(QStringLiteral(QUINTARA_DATA_DIR "/dicas.txt"), path(QStringLiteral("dicas.txt")));
+    QFile::copy(QStringLiteral(QUINTARA_DATA_DIR "/fundo.gif"), path(QStringLiteral("fundo.gif")));
+    QDir().mkpath(path(QStringLiteral("config")));
+    store::set_program_dir(dir_.path());
+    platform::set_settings_root(path(QStringLiteral("config")));
+    platform::set_clock(&clock_);
+    platform::set_prompts(&prompts_);
+    platform::set_shell(&shell_);
+}
+
+void fixture::TearDown() {
+    store::conexao.reset();
+    platform::set_clock(nullptr);
+    platform::set_prompts(nullptr);
+    platform::set_shell(nullptr);
+    platform::set_settings_root(QString());
+    store::set_program_dir(QString());
+}
+
+QString fixture::settings_file() const {
+    return platform::settings_file(QStringLiteral("Quintara"));
+}
+
+void fixture::exec(const QString& statement) {
+    auto c = sql::connection::open(path(QStringLiteral("dados.qntbd")), store::senha_dados.toUtf8());
+    c->execute(statement);
+}
+
+QStringList fixture::rows(const QString& statement) {
+    auto c = sql::connection::open(path(QStringLiteral("dados.qntbd")), store::senha_dados.toUtf8());
+    sql::recordset rs;
+    rs.open(statement, c);
+    QStringList out;
+    for (; !rs.eof(); rs.move_next()) {
+        QStringList f;
+        for (int i = 0; i < rs.field_count(); ++i)
+            f << rs.text(i);
+        out << f.join(QLatin1Char('|'));
+    }
+    return out;
+}
+
+} // namespace support
