@@ -1,5 +1,6 @@
 #include "platform/prompts_qt.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
