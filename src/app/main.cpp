@@ -1,4 +1,5 @@
 // Quintara starts at its login window; the login decides when the main window appears.
+#include "platform/printer_qt.h"
 #include "platform/prompts_qt.h"
 #include "shell/frmlogin.h"
 
@@ -10,7 +11,8 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName(QStringLiteral("Quintara"));
     platform::qt_prompts prompts;
     platform::set_prompts(&prompts);
-    auto* login = new frmlogin();
-    login->abrir();
+    platform::dialog_print_target printing;
+    platform::set_print_destination(&printing);
+    frmlogin::instance()->abrir();
     return QApplication::exec();
 }

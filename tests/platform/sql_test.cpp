@@ -39,9 +39,11 @@ TEST(unicode_like, wildcards_and_case_over_unicode) {
 TEST(jet_dialect, rewrites_what_sqlite_reads_otherwise) {
     EXPECT_EQ(sql::jet_dialect(QStringLiteral("Delete * from login where(nome like 'x')")),
               QStringLiteral("DELETE FROM login where(nome like 'x')"));
-    EXPECT_EQ(sql::jet_dialect(QStringLiteral("SELECT * FROM pagar WHERE data BETWEEN '2026/11/30' AND '2026/11/23' ")),
+    EXPECT_EQ(sql::jet_dialect(
+                  QStringLiteral("SELECT * FROM pagar WHERE data BETWEEN '2026/11/30' AND '2026/11/23' ")),
               QStringLiteral("SELECT * FROM pagar WHERE data BETWEEN '2026/11/23' AND '2026/11/30' "));
-    const QString in_order = QStringLiteral("SELECT * FROM pagar WHERE data BETWEEN '2026/01/01' AND '2026/02/31'");
+    const QString in_order =
+        QStringLiteral("SELECT * FROM pagar WHERE data BETWEEN '2026/01/01' AND '2026/02/31'");
     EXPECT_EQ(sql::jet_dialect(in_order), in_order);
 }
 
@@ -61,10 +63,13 @@ protected:
 
 TEST_F(sql_store, every_statement_form_runs_as_written) {
     auto c = open();
-    c->execute(QStringLiteral("INSERT INTO pagar (estatus, origem, fornecedor, data, descricao, Valor, vencimento) "
-                              "VALUES ('Pendente', 'Itaú', 'Light', '2026/11/16', 'Energia', '120,00', '2026/11/30')"));
-    c->execute(QStringLiteral("INSERT INTO banco (banco, informacoes, saldo) VALUES ('Itaú', ' ', '1.000,00')"));
-    c->execute(QStringLiteral("INSERT INTO compromisso (data, hora, Titulo) VALUES ('2026/11/23', '10:00', 'Reunião')"));
+    c->execute(QStringLiteral(
+        "INSERT INTO pagar (estatus, origem, fornecedor, data, descricao, Valor, vencimento) "
+        "VALUES ('Pendente', 'Itaú', 'Light', '2026/11/16', 'Energia', '120,00', '2026/11/30')"));
+    c->execute(
+        QStringLiteral("INSERT INTO banco (banco, informacoes, saldo) VALUES ('Itaú', ' ', '1.000,00')"));
+    c->execute(QStringLiteral(
+        "INSERT INTO compromisso (data, hora, Titulo) VALUES ('2026/11/23', '10:00', 'Reunião')"));
     c->execute(QStringLiteral("INSERT INTO pcontapagar (descricao) VALUES ('Energia')"));
     c->execute(QStringLiteral("INSERT INTO login (nome, senha) VALUES ('ana', 'x')"));
     const char* forms[] = {
@@ -98,7 +103,8 @@ TEST_F(sql_store, every_statement_form_runs_as_written) {
         "Delete FROM pcontapagar where(descricao like 'Luz')",
         "Delete * from login where(nome like 'ANA')",
     };
-    for (const char* f : changes) EXPECT_NO_THROW(c->execute(QString::fromUtf8(f))) << f;
+    for (const char* f : changes)
+        EXPECT_NO_THROW(c->execute(QString::fromUtf8(f))) << f;
     EXPECT_TRUE(rows(QStringLiteral("SELECT * FROM pagar")).isEmpty());
     EXPECT_TRUE(rows(QStringLiteral("SELECT * FROM banco")).isEmpty());
     EXPECT_TRUE(rows(QStringLiteral("SELECT * FROM login")).isEmpty());
@@ -107,10 +113,13 @@ TEST_F(sql_store, every_statement_form_runs_as_written) {
 
 TEST_F(sql_store, codigo_like_matches_the_whole_number_only) {
     auto c = open();
-    c->execute(QStringLiteral("INSERT INTO pagar (estatus) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 "
-                              "FROM n WHERE i < 120) SELECT 'Pendente' FROM n"));
+    c->execute(
+        QStringLiteral("INSERT INTO pagar (estatus) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 "
+                       "FROM n WHERE i < 120) SELECT 'Pendente' FROM n"));
     sql::recordset rs;
-    rs.open(QStringLiteral("SELECT * FROM pagar where(código like '") + sql::value(12.0) + QStringLiteral("')"), c);
+    rs.open(QStringLiteral("SELECT * FROM pagar where(código like '") + sql::value(12.0) +
+                QStringLiteral("')"),
+            c);
     ASSERT_EQ(rs.record_count(), 1);
     EXPECT_EQ(rs.text(QStringLiteral("CÓDIGO")), QStringLiteral("12"));
 }
@@ -121,7 +130,9 @@ TEST_F(sql_store, a_name_with_an_apostrophe_fails_the_statement_and_touches_noth
     const QString evil = QStringLiteral("x' OR banco like '%");
     sql::recordset rs;
     try {
-        rs.open(QStringLiteral("SELECT * FROM banco where(banco like '") + sql::value(evil) + QStringLiteral("')"), c);
+        rs.open(QStringLiteral("SELECT * FROM banco where(banco like '") + sql::value(evil) +
+                    QStringLiteral("')"),
+                c);
         FAIL() << "the statement ran";
     } catch (const sql::error& e) {
         EXPECT_FALSE(e.description().isEmpty());
@@ -153,12 +164,14 @@ TEST_F(sql_store, recordset_adds_and_edits_rows_of_tables_without_a_key) {
     }
     {
         sql::recordset rs;
-        rs.open(QStringLiteral("SELECT * FROM banco where(banco like 'itaú')"), c, sql::keyset, sql::pessimistic);
+        rs.open(QStringLiteral("SELECT * FROM banco where(banco like 'itaú')"), c, sql::keyset,
+                sql::pessimistic);
         ASSERT_FALSE(rs.eof());
         rs.set(QStringLiteral("saldo"), QStringLiteral("99,00"));
         rs.update();
     }
-    EXPECT_EQ(rows(QStringLiteral("SELECT banco, saldo FROM banco")), QStringList{QStringLiteral("Itaú|99,00")});
+    EXPECT_EQ(rows(QStringLiteral("SELECT banco, saldo FROM banco")),
+              QStringList{QStringLiteral("Itaú|99,00")});
     // a new row of a keyed table gets its generated number at once
     sql::recordset rs;
     rs.open(QStringLiteral("pagar"), c, sql::keyset, sql::pessimistic);
@@ -190,14 +203,16 @@ TEST_F(sql_store, files_that_are_not_data_files_are_refused) {
     f.write(QByteArray(4096, 'x'));
     f.close();
     EXPECT_THROW(sql::connection::open(junk, store::senha_dados.toUtf8()), sql::error);
-    EXPECT_THROW(sql::connection::open(path(QStringLiteral("nada.qntbd")), store::senha_dados.toUtf8()), sql::error);
+    EXPECT_THROW(sql::connection::open(path(QStringLiteral("nada.qntbd")), store::senha_dados.toUtf8()),
+                 sql::error);
     EXPECT_THROW(sql::connection::open(path(QStringLiteral("dados.qntbd")), QByteArray("outra")), sql::error);
 }
 
 TEST_F(sql_store, the_key_is_derived_once_per_file) {
     open();
     const int before = sql::key_derivations();
-    for (int i = 0; i < 5; ++i) open();
+    for (int i = 0; i < 5; ++i)
+        open();
     EXPECT_EQ(sql::key_derivations(), before);
 }
 

@@ -10,9 +10,10 @@ namespace {
 
 class conexao : public support::fixture {};
 
-const QString mensagem = QStringLiteral(
-    "Não foi possível conectar ao banco de dados, verifique se você está conectado a internet ou rede local e tente "
-    "novamente. Caso o erro persista entre em contato com o administrador da rede. \nErro: ");
+const QString mensagem =
+    QStringLiteral("Não foi possível conectar ao banco de dados, verifique se você está conectado a internet "
+                   "ou rede local e tente "
+                   "novamente. Caso o erro persista entre em contato com o administrador da rede. \nErro: ");
 
 TEST_F(conexao, opens_the_local_file) {
     store::conectarbanco();
@@ -24,7 +25,8 @@ TEST_F(conexao, opens_the_local_file) {
 }
 
 TEST_F(conexao, a_missing_file_retries_then_turns_network_mode_off) {
-    store::save_setting(store::secao_config, QStringLiteral("RedeLocal"), path(QStringLiteral("rede/dados.qntbd")));
+    store::save_setting(store::secao_config, QStringLiteral("RedeLocal"),
+                        path(QStringLiteral("rede/dados.qntbd")));
     store::save_setting(store::secao_config, QStringLiteral("EmRede"), QStringLiteral("1"));
     store::conectarbanco();
     EXPECT_FALSE(store::conexao);
@@ -38,8 +40,10 @@ TEST_F(conexao, a_missing_file_retries_then_turns_network_mode_off) {
     EXPECT_TRUE(boxes[0].text.startsWith(mensagem)) << qPrintable(boxes[0].text);
     EXPECT_GT(boxes[0].text.size(), mensagem.size());
     EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("EmRede"), QString()), QStringLiteral("0"));
-    EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("RedeLocal"), QString()), QStringLiteral("SemRede"));
-    EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("BackupID"), QString()), QStringLiteral("0"));
+    EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("RedeLocal"), QString()),
+              QStringLiteral("SemRede"));
+    EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("BackupID"), QString()),
+              QStringLiteral("0"));
     // the next connection uses the local file
     prompts_.clear();
     store::conectarbanco();
@@ -65,7 +69,8 @@ TEST_F(conexao, files_that_are_not_data_files_fail_the_same_way) {
 
 TEST_F(conexao, network_path_is_used_as_it_stands) {
     QFile::copy(path(QStringLiteral("dados.qntbd")), path(QStringLiteral("compartilhado.qntbd")));
-    store::save_setting(store::secao_config, QStringLiteral("RedeLocal"), path(QStringLiteral("compartilhado.qntbd")));
+    store::save_setting(store::secao_config, QStringLiteral("RedeLocal"),
+                        path(QStringLiteral("compartilhado.qntbd")));
     QFile::remove(path(QStringLiteral("dados.qntbd")));
     store::conectarbanco();
     EXPECT_TRUE(store::conexao);

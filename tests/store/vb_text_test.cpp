@@ -9,16 +9,26 @@ TEST(vb_text, money_formats_round_half_away_and_group) {
         double v;
         const char* text;
     } cases[] = {
-        {0, "0,00"},           {0.5, "0,50"},           {1234.56, "1.234,56"}, {-1234.56, "-1.234,56"},
-        {1234567.891, "1.234.567,89"}, {0.005, "0,01"},  {1.005, "1,01"},      {2.675, "2,68"},
-        {999999.995, "1.000.000,00"},   {-0.001, "0,00"}, {100, "100,00"},      {12345678901.5, "12.345.678.901,50"},
+        {0, "0,00"},
+        {0.5, "0,50"},
+        {1234.56, "1.234,56"},
+        {-1234.56, "-1.234,56"},
+        {1234567.891, "1.234.567,89"},
+        {0.005, "0,01"},
+        {1.005, "1,01"},
+        {2.675, "2,68"},
+        {999999.995, "1.000.000,00"},
+        {-0.001, "0,00"},
+        {100, "100,00"},
+        {12345678901.5, "12.345.678.901,50"},
     };
-    for (const auto& c : cases) EXPECT_EQ(vb::format_money(c.v), QString::fromUtf8(c.text)) << c.v;
+    for (const auto& c : cases)
+        EXPECT_EQ(vb::format_money(c.v), QString::fromUtf8(c.text)) << c.v;
 }
 
 TEST(vb_text, currency_formats_exactly) {
-    EXPECT_EQ(vb::format_money(vb::currency::from_raw(12345)), QStringLiteral("1,23"));   // 1,2345
-    EXPECT_EQ(vb::format_money(vb::currency::from_raw(12350)), QStringLiteral("1,24"));   // half away from zero
+    EXPECT_EQ(vb::format_money(vb::currency::from_raw(12345)), QStringLiteral("1,23")); // 1,2345
+    EXPECT_EQ(vb::format_money(vb::currency::from_raw(12350)), QStringLiteral("1,24")); // half away from zero
     EXPECT_EQ(vb::format_money(vb::currency::from_raw(-12350)), QStringLiteral("-1,24"));
     EXPECT_EQ(vb::format_money_prefixed(vb::currency::from_raw(-1200000)), QStringLiteral("-R$ 120,00"));
     EXPECT_EQ(vb::format_money_prefixed(vb::currency::from_raw(12345678900), QStringLiteral("€ ")),
@@ -30,9 +40,18 @@ TEST(vb_text, ccur_reads_the_brazilian_form) {
         const char* text;
         long long raw; // -1 marks "unreadable"
     } cases[] = {
-        {"1.234,56", 12345600}, {"R$ 1.234,56", 12345600}, {" 7,5 ", 75000}, {"-12", -120000},
-        {"-R$ 3,00", -30000},   {"1234.56", 1234560000},   {"0,00005", 0},    {"0,00015", 2},
-        {"abc", -1},            {"", -1},                   {"12,3,4", -1},   {"(5,00)", -50000},
+        {"1.234,56", 12345600},
+        {"R$ 1.234,56", 12345600},
+        {" 7,5 ", 75000},
+        {"-12", -120000},
+        {"-R$ 3,00", -30000},
+        {"1234.56", 1234560000},
+        {"0,00005", 0},
+        {"0,00015", 2},
+        {"abc", -1},
+        {"", -1},
+        {"12,3,4", -1},
+        {"(5,00)", -50000},
     };
     for (const auto& c : cases) {
         const auto r = vb::ccur(QString::fromUtf8(c.text));
@@ -56,10 +75,11 @@ TEST(vb_text, val_takes_the_leading_number) {
     struct {
         const char* text;
         double v;
-    } cases[] = {{"12", 12},      {"12,5", 12},  {"3.75abc", 3.75}, {" 1 2 3", 123}, {"abc", 0},
-                 {"-4.5", -4.5},  {"&HFF", 255}, {"&O17", 15},      {"1e3", 1000},   {"0,5", 0},
-                 {"6 parcelas", 6}, {"", 0}};
-    for (const auto& c : cases) EXPECT_DOUBLE_EQ(vb::val(QString::fromUtf8(c.text)), c.v) << c.text;
+    } cases[] = {{"12", 12},    {"12,5", 12},   {"3.75abc", 3.75}, {" 1 2 3", 123},
+                 {"abc", 0},    {"-4.5", -4.5}, {"&HFF", 255},     {"&O17", 15},
+                 {"1e3", 1000}, {"0,5", 0},     {"6 parcelas", 6}, {"", 0}};
+    for (const auto& c : cases)
+        EXPECT_DOUBLE_EQ(vb::val(QString::fromUtf8(c.text)), c.v) << c.text;
 }
 
 TEST(vb_text, dates_read_both_stored_forms) {
@@ -69,9 +89,12 @@ TEST(vb_text, dates_read_both_stored_forms) {
     EXPECT_EQ(vb::cdate(QStringLiteral("1/2/45")), QDate(1945, 2, 1));
     EXPECT_FALSE(vb::cdate(QStringLiteral("2026/02/31")).isValid());
     EXPECT_FALSE(vb::cdate(QStringLiteral("abc")).isValid());
-    EXPECT_EQ(vb::format_date_text(QStringLiteral("16/11/2026"), QStringLiteral("dd/mm/yyyy")), QStringLiteral("16/11/2026"));
-    EXPECT_EQ(vb::format_date_text(QStringLiteral("2026/11/16"), QStringLiteral("dd/mm/yyyy")), QStringLiteral("16/11/2026"));
-    EXPECT_EQ(vb::format_date_text(QStringLiteral("sem data"), QStringLiteral("dd/mm/yyyy")), QStringLiteral("sem data"));
+    EXPECT_EQ(vb::format_date_text(QStringLiteral("16/11/2026"), QStringLiteral("dd/mm/yyyy")),
+              QStringLiteral("16/11/2026"));
+    EXPECT_EQ(vb::format_date_text(QStringLiteral("2026/11/16"), QStringLiteral("dd/mm/yyyy")),
+              QStringLiteral("16/11/2026"));
+    EXPECT_EQ(vb::format_date_text(QStringLiteral("sem data"), QStringLiteral("dd/mm/yyyy")),
+              QStringLiteral("sem data"));
 }
 
 TEST(vb_text, date_formats_and_names) {
@@ -82,7 +105,8 @@ TEST(vb_text, date_formats_and_names) {
     EXPECT_EQ(vb::format_date(d, QStringLiteral("mmmm")), QStringLiteral("novembro"));
     EXPECT_EQ(vb::format_date(d, QStringLiteral("mmm/yy")), QStringLiteral("nov/26"));
     EXPECT_EQ(vb::format_date(d, QStringLiteral("d/m/yyyy")), QStringLiteral("23/11/2026"));
-    EXPECT_EQ(vb::format_datetime(QDateTime(d, QTime(9, 5, 7)), QStringLiteral("hh:mm:ss")), QStringLiteral("09:05:07"));
+    EXPECT_EQ(vb::format_datetime(QDateTime(d, QTime(9, 5, 7)), QStringLiteral("hh:mm:ss")),
+              QStringLiteral("09:05:07"));
     EXPECT_EQ(vb::long_time(QTime(14, 5, 9)), QStringLiteral("14:05:09"));
 }
 

@@ -20,7 +20,8 @@ double twips_per_pixel(const QWidget* w) {
 // The number in a cell such as "R$ 1.234,56", "$ 12,00" or "-3,5": the currency sign is skipped.
 double number_key(QStringView s) {
     qsizetype i = 0;
-    while (i < s.size() && !s[i].isDigit() && s[i] != QLatin1Char('-') && s[i] != QLatin1Char(',')) ++i;
+    while (i < s.size() && !s[i].isDigit() && s[i] != QLatin1Char('-') && s[i] != QLatin1Char(','))
+        ++i;
     bool neg = false;
     if (i > 0 && s[i - 1] == QLatin1Char('-')) neg = true;
     const auto v = vb::cdbl(s.mid(i).toString());
@@ -50,8 +51,12 @@ public:
     std::vector<column> columns;
     QColor text_colour;
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : int(order_.size()); }
-    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : int(columns.size()); }
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : int(order_.size());
+    }
+    int columnCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : int(columns.size());
+    }
 
     QVariant data(const QModelIndex& index, int role) const override {
         if (!index.isValid()) return {};
@@ -60,7 +65,8 @@ public:
         case Qt::ToolTipRole:
             return cell(index.row(), index.column()).toString();
         case Qt::TextAlignmentRole:
-            return QVariant::fromValue(Qt::Alignment(columns[std::size_t(index.column())].align | Qt::AlignVCenter));
+            return QVariant::fromValue(
+                Qt::Alignment(columns[std::size_t(index.column())].align | Qt::AlignVCenter));
         case Qt::ForegroundRole:
             return text_colour.isValid() ? QVariant(text_colour) : QVariant();
         default:
@@ -101,7 +107,8 @@ public:
     void append(const QStringList& cells) {
         QString joined;
         qsizetype total = 0;
-        for (const QString& c : cells) total += c.size();
+        for (const QString& c : cells)
+            total += c.size();
         joined.reserve(total);
         starts_.push_back(offsets_.size());
         counts_.push_back(std::uint32_t(cells.size()));
@@ -134,7 +141,8 @@ public:
         const std::size_t r = order_[std::size_t(row)];
         QStringList cells;
         const int n = std::max(int(counts_[r]), col + 1);
-        for (int c = 0; c < n; ++c) cells << (c == col ? text : cell(row, c).toString());
+        for (int c = 0; c < n; ++c)
+            cells << (c == col ? text : cell(row, c).toString());
         // rewrite the row at the end of the stores and point the order at it
         append(cells);
         order_.pop_back();
@@ -168,11 +176,13 @@ public:
         };
         if (tag == list_view::tag_date) {
             std::vector<qint64> keys(rows.size());
-            for (std::size_t i = 0; i < rows.size(); ++i) keys[i] = date_key(cell(int(i), col));
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                keys[i] = date_key(cell(int(i), col));
             apply([&](int a, int b) { return keys[std::size_t(a)] < keys[std::size_t(b)]; });
         } else if (tag == list_view::tag_number) {
             std::vector<double> keys(rows.size());
-            for (std::size_t i = 0; i < rows.size(); ++i) keys[i] = number_key(cell(int(i), col));
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                keys[i] = number_key(cell(int(i), col));
             apply([&](int a, int b) { return keys[std::size_t(a)] < keys[std::size_t(b)]; });
         } else {
             apply([&](int a, int b) { return cell(a, col).compare(cell(b, col), Qt::CaseInsensitive) < 0; });
@@ -183,7 +193,8 @@ public:
             new_pos[std::size_t(rows[i])] = int(i);
         }
         QModelIndexList after;
-        for (const QModelIndex& i : before) after << index(new_pos[std::size_t(i.row())], i.column());
+        for (const QModelIndex& i : before)
+            after << index(new_pos[std::size_t(i.row())], i.column());
         changePersistentIndexList(before, after);
         Q_EMIT layoutChanged();
     }
@@ -234,14 +245,19 @@ list_view::list_view(QWidget* parent) : QTreeView(parent), model_(new list_model
 
 list_view::~list_view() = default;
 
-double list_view::pixels_to_twips(int px, const QWidget* w) { return px * twips_per_pixel(w); }
+double list_view::pixels_to_twips(int px, const QWidget* w) {
+    return px * twips_per_pixel(w);
+}
 
-int list_view::twips_to_pixels(double twips, const QWidget* w) { return int(twips / twips_per_pixel(w) + 0.5); }
+int list_view::twips_to_pixels(double twips, const QWidget* w) {
+    return int(twips / twips_per_pixel(w) + 0.5);
+}
 
 void list_view::add_column(const QString& text, double width_twips, int tag, Qt::Alignment align) {
     model_->columns.push_back({text, width_twips, tag, align});
     model_->columns_changed();
-    for (int c = 0; c < int(model_->columns.size()); ++c) set_column_width(c, model_->columns[std::size_t(c)].width_twips);
+    for (int c = 0; c < int(model_->columns.size()); ++c)
+        set_column_width(c, model_->columns[std::size_t(c)].width_twips);
 }
 
 void list_view::clear_columns() {
@@ -251,7 +267,9 @@ void list_view::clear_columns() {
     arrow_col_ = -1;
 }
 
-int list_view::column_count() const { return int(model_->columns.size()); }
+int list_view::column_count() const {
+    return int(model_->columns.size());
+}
 
 QString list_view::column_text(int col) const {
     return col >= 0 && col < column_count() ? model_->columns[std::size_t(col)].text : QString();
@@ -281,7 +299,9 @@ void list_view::set_column_tag(int col, int tag) {
     if (col >= 0 && col < column_count()) model_->columns[std::size_t(col)].tag = tag;
 }
 
-int list_view::column_position(int col) const { return header()->visualIndex(col) + 1; }
+int list_view::column_position(int col) const {
+    return header()->visualIndex(col) + 1;
+}
 
 void list_view::set_column_position(int col, int position) {
     if (col < 0 || col >= column_count()) return;
@@ -289,22 +309,34 @@ void list_view::set_column_position(int col, int position) {
     header()->moveSection(header()->visualIndex(col), to);
 }
 
-void list_view::clear_rows() { model_->clear_rows(); }
+void list_view::clear_rows() {
+    model_->clear_rows();
+}
 
 void list_view::add_row(const QStringList& texts) {
     std::vector<QStringList> one{texts};
     model_->add_rows(std::move(one));
 }
 
-void list_view::add_rows(std::vector<QStringList>&& rows) { model_->add_rows(std::move(rows)); }
+void list_view::add_rows(std::vector<QStringList>&& rows) {
+    model_->add_rows(std::move(rows));
+}
 
-int list_view::row_count() const { return model_->rowCount(); }
+int list_view::row_count() const {
+    return model_->rowCount();
+}
 
-QString list_view::text(int row, int col) const { return model_->cell(row, col).toString(); }
+QString list_view::text(int row, int col) const {
+    return model_->cell(row, col).toString();
+}
 
-void list_view::set_text(int row, int col, const QString& text) { model_->set_cell(row, col, text); }
+void list_view::set_text(int row, int col, const QString& text) {
+    model_->set_cell(row, col, text);
+}
 
-void list_view::remove_row(int row) { model_->remove_row(row); }
+void list_view::remove_row(int row) {
+    model_->remove_row(row);
+}
 
 int list_view::selected_row() const {
     const QModelIndexList sel = selectionModel()->selectedRows();
@@ -339,11 +371,17 @@ void list_view::ordenarlista(int col) {
     model_->sort(col, order);
 }
 
-int list_view::arrow_column() const { return arrow_col_; }
+int list_view::arrow_column() const {
+    return arrow_col_;
+}
 
-bool list_view::arrow_ascending() const { return arrow_up_; }
+bool list_view::arrow_ascending() const {
+    return arrow_up_;
+}
 
-void list_view::set_list_font(const QFont& f) { setFont(f); }
+void list_view::set_list_font(const QFont& f) {
+    setFont(f);
+}
 
 void list_view::set_text_colour(const QColor& c) {
     model_->text_colour = c;

@@ -1,0 +1,180 @@
+#include "output/report_frame.h"
+
+#include "platform/clock.h"
+#include "platform/prompts.h"
+#include "platform/shell.h"
+#include "store/config.h"
+#include "store/vb_text.h"
+
+#include <QCursor>
+#include <QFile>
+#include <QGuiApplication>
+
+namespace output {
+
+namespace {
+
+const QString padrao_nome = QStringLiteral("Quintara");
+const QString padrao_slogan = QStringLiteral("Quintara - organização financeira pessoal e empresarial");
+const QString padrao_site = QStringLiteral("https://www.quintara.com.br");
+
+void line(QIODevice& out, const QString& s) {
+    if (!out.isWritable()) return;
+    out.write(s.toUtf8() + QByteArrayLiteral("\r\n"));
+}
+
+// The hourglass while the table is written, when there is a screen to show it on.
+class busy_cursor {
+public:
+    busy_cursor() : on_(qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
+        if (on_) QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+    }
+    ~busy_cursor() {
+        if (on_) QGuiApplication::restoreOverrideCursor();
+    }
+    busy_cursor(const busy_cursor&) = delete;
+    busy_cursor& operator=(const busy_cursor&) = delete;
+
+private:
+    bool on_;
+};
+
+QString heading(const report_texts& t) {
+    if (t.janela == janela_relatorio::movimento) return t.caption.toUpper();
+    return t.caption.toUpper() + QStringLiteral(" - ") + t.tipo.toUpper();
+}
+
+} // namespace
+
+QString nome_relatorio() {
+    return store::setting(store::secao_relatorio, QStringLiteral("nome"), padrao_nome);
+}
+QString slogan_relatorio() {
+    return store::setting(store::secao_relatorio, QStringLiteral("slogan"), padrao_slogan);
+}
+QString site_relatorio() {
+    return store::setting(store::secao_relatorio, QStringLiteral("site"), padrao_site);
+}
+
+QString linha_gerado() {
+    const QDateTime agora = platform::now();
+    return QStringLiteral("Gerado ") + vb::long_date(agora.date()) + QStringLiteral(" às ") +
+           vb::long_time(agora.time());
+}
+
+QString linha_site_html() {
+    const QString site = site_relatorio();
+    return QStringLiteral("<p><a href='") + site + QStringLiteral("'>") + site +
+           QStringLiteral("</a></p><br>");
+}
+
+void write_text_report(QIODevice& out, const report_texts& t, const platform::table_source* lista,
+                       c_relatorios& exportador) {
+    const bool movimento = t.janela == janela_relatorio::movimento;
+    line(out, heading(t));
+    line(out, QString());
+    if (!movimento) {
+        line(out, t.subtitulo);
+        line(out, QString());
+    }
+    line(out, linha_produto);
+    line(out, QString());
+    if (lista) {
+        busy_cursor hourglass;
+        exportador.Exportar_listaparaTXT(out, QString(), *lista, true);
+    }
+    line(out, QString());
+    if (movimento) {
+        line(out, QStringLiteral("Estatísticas"));
+        line(out, QString());
+    }
+    line(out, t.totais);
+    line(out, QString());
+    line(out, linha_gerado());
+    line(out, QString());
+    line(out, nome_relatorio());
+    line(out, QString());
+    line(out, slogan_relatorio());
+    line(out, site_relatorio());
+}
+
+void write_html_report(QIODevice& out, const report_texts& t, const platform::table_source* lista,
+                       c_relatorios& exportador) {
+    const bool movimento = t.janela == janela_relatorio::movimento;
+    if (out.isWritable()) out.write(QByteArrayLiteral("\xEF\xBB\xBF"));
+    line(out, QStringLiteral("<html>\r\n<head>\r\n<title>") + heading(t) + QStringLiteral("</title>"));
+    line(out, QStringLiteral("<p><font face='Arial'>"));
+    line(out, QStringLiteral("<center><b>") + heading(t) + QStringLiteral("</b>"));
+    line(out, QStringLiteral("<hr>"));
+    if (!movimento) {
+        line(out, t.subtitulo);
+        line(out, QStringLiteral("<br>"));
+    }
+    line(out, linha_produto + QStringLiteral("<br><br>"));
+    line(out, QStringLiteral("</center></font></p>"));
+    if (lista) {
+        busy_cursor hourglass;
+        exportador.Exportar_listaparaHTML(out, *lista);
+    }
+    line(out, QStringLiteral("<p><font face='Arial'><center>"));
+    line(out, QStringLiteral("<br><b>Estatísticas</b><hr>") + t.totais + QStringLiteral("<hr><br>"));
+    line(out, linha_gerado() + QStringLiteral("<br>"));
+    line(out, QStringLiteral("<br>"));
+    line(out, QStringLiteral("<b>") + nome_relatorio() + QStringLiteral("</b><br>"));
+    line(out, QStringLiteral("<br>"));
+    line(out, slogan_relatorio() + QStringLiteral("<br>"));
+    line(out, linha_site_html());
+    line(out, QStringLiteral("</center></font></p>"));
+}
+
+QString save_title(formato_relatorio f) {
+    return f == formato_relatorio::txt ? QStringLiteral("Salvar relatório em txt")
+                                       : QStringLiteral("Salvar relatório em html");
+}
+
+QString save_filter(janela_relatorio j, formato_relatorio f) {
+    if (f == formato_relatorio::html) return QStringLiteral("Arquivos HTML(*.html)|*.html");
+    // the two windows spell it differently
+    return j == janela_relatorio::relatorio ? QStringLiteral("Arquivos de Texto(*.txt)|*.txt")
+                                            : QStringLiteral("Arquivo de texto(*.txt)|*.txt");
+}
+
+void perguntar_visualizar(const QString& arquivo) {
+    const int r = platform::msgbox(
+        QStringLiteral("Os dados foram salvos com sucesso para arquivo, deseja abrir o arquivo agora?"),
+        platform::yes_no | platform::question, QStringLiteral("Visualizar"));
+    if (r == platform::answer_yes) platform::desktop().open(arquivo);
+}
+
+QString salvar_relatorio(formato_relatorio f, const report_texts& t, const platform::table_source* lista,
+                         c_relatorios& exportador) {
+    QString arquivo;
+    try {
+        arquivo = platform::ask().save_file(save_title(f), save_filter(t.janela, f), QString());
+    } catch (...) {
+        return {};
+    }
+    if (arquivo.isEmpty()) return arquivo;
+    // each step on its own: a failure skips that step and the next one runs
+    progress* bar = exportador.Progresbar();
+    if (bar) bar->set_visible(true);
+    try {
+        // an unwritable file leaves nothing written and nothing touched
+        QFile file(arquivo);
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+            if (f == formato_relatorio::txt)
+                write_text_report(file, t, lista, exportador);
+            else
+                write_html_report(file, t, lista, exportador);
+        }
+    } catch (...) {
+    }
+    if (bar) bar->set_visible(false);
+    try {
+        perguntar_visualizar(arquivo);
+    } catch (...) {
+    }
+    return arquivo;
+}
+
+} // namespace output
