@@ -153,4 +153,42 @@ TEST_F(startup, with_the_data_off_the_tabs_are_hidden) {
     EXPECT_TRUE(p->lblpagarest->text().isEmpty());
 }
 
+TEST_F(startup, closing_by_the_menu_or_the_close_box_stores_the_column_layout) {
+    for (const char* how : {"mnusair", "close box"}) {
+        QFile::remove(path(QStringLiteral("pagar.ini")));
+        exigir_login("0");
+        login()->abrir();
+        auto* p = frmprincipal::instance();
+        p->lstpagar->set_column_width(2, 3000);
+        if (QString::fromLatin1(how) == QLatin1String("mnusair"))
+            p->item(QStringLiteral("mnusair"))->trigger();
+        else
+            p->close();
+        QFile f(path(QStringLiteral("pagar.ini")));
+        ASSERT_TRUE(f.open(QIODevice::ReadOnly)) << how;
+        EXPECT_TRUE(f.readAll().contains("descricao=3000")) << how;
+        delete p;
+        frmlogin::descarregar();
+        QCoreApplication::processEvents();
+    }
+}
+
+TEST_F(startup, an_empty_list_keeps_its_look_until_it_has_rows) {
+    exigir_login("0");
+    store::save_setting(store::secao_config, QStringLiteral("CorFundo1"), QStringLiteral("&HC0FFFF"));
+    store::save_setting(store::secao_config, QStringLiteral("CorFundo2"), QStringLiteral("&HE0E0E0"));
+    login()->abrir();
+    auto* p = frmprincipal::instance();
+    EXPECT_FALSE(p->lstpagar->alternatingRowColors());
+    exec(QStringLiteral("INSERT INTO pagar (estatus, data, Valor, vencimento) VALUES ('Pendente', '2026/11/23', "
+                        "'10,00', '2026/11/30')"));
+    p->carregarpagar();
+    p->CarregarConfigSoft();
+    EXPECT_TRUE(p->lstpagar->alternatingRowColors());
+    EXPECT_EQ(p->lstpagar->palette().color(QPalette::Base), QColor(0xFF, 0xFF, 0xC0));
+    EXPECT_EQ(p->lstpagar->palette().color(QPalette::AlternateBase), QColor(0xE0, 0xE0, 0xE0));
+    EXPECT_EQ(p->lblpagarest->text(), QStringLiteral("1 cadastros  -  Total de despesas: R$ 10,00  -  Total pago: R$ "
+                                                     "0,00  -  Total pendente: R$ 10,00"));
+}
+
 } // namespace

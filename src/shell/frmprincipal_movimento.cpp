@@ -1,0 +1,24 @@
+// The main window's actions on the bank movement list.
+#include "banks/frmeditarbancario.h"
+#include "banks/frmmovimentobanc.h"
+#include "banks/movimento_bancario.h"
+#include "platform/widgets/list_view.h"
+#include "shell/frmprincipal.h"
+#include "store/vb_text.h"
+
+#include <algorithm>
+
+void frmprincipal::adicionarmovimento() {
+    frmmovimentobanc::instance()->mostrar();
+}
+
+void frmprincipal::alterarmovimento() {
+    if (lstmovimento->row_count() == 0) return;
+    // The list always has a selected item while it has rows: the first one until another is chosen.
+    const int row = std::max(lstmovimento->selected_row(), 0);
+    codigoselecionado = vb::val(lstmovimento->text(row, 0));
+    frmeditarbancario* w = frmeditarbancario::instance();
+    // Errors ignored: a row that cannot be read leaves the fields as they are.
+    if (const auto m = banks::read_movement(codigoselecionado)) w->preencher(*m);
+    w->mostrar();
+}
