@@ -135,3 +135,10 @@ CREATE INDEX bancario_origem ON bancario (origem);
 CREATE INDEX bancario_destino ON bancario (destino);
 CREATE INDEX bancario_data ON bancario (data);
 CREATE INDEX bancario_estatus ON bancario (estatus);
+
+-- An account's settled rows, found by its name as LIKE compares it (case folded over all of
+-- Unicode); quintara_fold is a function of the program, present on every connection it opens.
+CREATE INDEX pagar_origem_dobrada ON pagar (quintara_fold(origem), quintara_fold(estatus));
+CREATE INDEX receber_origem_dobrada ON receber (quintara_fold(origem), quintara_fold(estatus));
+CREATE INDEX bancario_origem_dobrada ON bancario (quintara_fold(origem), quintara_fold(estatus), quintara_fold(movimento));
+CREATE INDEX bancario_destino_dobrada ON bancario (quintara_fold(destino), quintara_fold(estatus), quintara_fold(movimento));

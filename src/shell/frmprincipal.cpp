@@ -4,6 +4,8 @@
 #include "platform/prompts.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/list_view.h"
+#include "shell/frmalerta.h"
+#include "shell/frmdica.h"
 #include "shell/frmlogin.h"
 #include "store/conexao.h"
 #include "store/config.h"
@@ -127,6 +129,7 @@ frmprincipal::frmprincipal() {
     statusBar()->addWidget(statustexto, 1);
     ligar_filtros();
     ligar_botoes();
+    ligar_acoes();
     // activation: the window gets the focus back from another of the program's windows
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* w) {
         static QPointer<QWindow> previous;
@@ -356,10 +359,12 @@ void frmprincipal::abrir() {
             CarregarConfigSoft();
             QCoreApplication::processEvents();
         }
-        // 10: the due alerts window is not part of this build yet; the check mark still follows the setting
+        // 10
         if (store::setting(store::secao_config, QStringLiteral("AlertasVencimento"), QStringLiteral("1")) ==
-            QLatin1String("1"))
+            QLatin1String("1")) {
             item(QStringLiteral("mnualertavenc"))->setChecked(true);
+            frmalerta::VerificarVencimentos_ao_iniciar(this);
+        }
         // 11
         CarregarColuna();
     } catch (const sql::error& e) {
@@ -378,8 +383,10 @@ void frmprincipal::abrir() {
 
 void frmprincipal::VerificarDica() {
     if (store::setting(store::secao_configuracoes, QStringLiteral("Exibir dica do dia"),
-                       QStringLiteral("1")) == QLatin1String("1"))
+                       QStringLiteral("1")) == QLatin1String("1")) {
         item(QStringLiteral("mnudicadia"))->setChecked(true);
+        frmdica::mostrar(true, this);
+    }
 }
 
 void frmprincipal::ativar() {
@@ -456,6 +463,7 @@ void frmprincipal::tab_mudou(int index) {
     try {
         if (index == 3) {
             SalvarColuna();
+            carregarbancos();
         } else if (index == 0) {
             dadospagar();
         } else if (index == 1) {

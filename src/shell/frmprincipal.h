@@ -74,6 +74,15 @@ public:
     void alterarbanco();
     void alterarmovimento();
 
+    // Removals, settling, pop-up menus and the wiring of the list actions (frmprincipal_acoes.cpp)
+    void removerpagar();
+    void removerreceber();
+    void removermovimento();
+    void removerbanco();
+    void popbaixapagar();
+    void popbaixareceber();
+    void ligar_acoes();
+
     // Menu items and toolbar, by name.
     QAction* item(const QString& name) const { return items_.value(name); }
     void executar_item(const QString& name);

@@ -3,6 +3,7 @@
 #include "platform/autostart.h"
 #include "platform/prompts.h"
 #include "platform/shell.h"
+#include "shell/frmdica.h"
 #include "shell/frmprincipal.h"
 #include "shell/main_menu.h"
 #include "store/config.h"
@@ -63,9 +64,10 @@ void frmprincipal::montar_menus() {
         connect(a, &QAction::triggered, this, [this, name]() { executar_item(name); });
     }
     // the items this program has a routine for
-    QStringList working = {QStringLiteral("mnusair"),    QStringLiteral("mnuexibirprincipal"),
-                           QStringLiteral("mnuiniciar"), QStringLiteral("mnulogininiciar"),
-                           QStringLiteral("mnunotepad"), QStringLiteral("mnucalc")};
+    QStringList working = {QStringLiteral("mnusair"),          QStringLiteral("mnuexibirprincipal"),
+                           QStringLiteral("mnuiniciar"),       QStringLiteral("mnulogininiciar"),
+                           QStringLiteral("mnunotepad"),       QStringLiteral("mnucalc"),
+                           QStringLiteral("mnumostrardicadia")};
     for (const auto& t : toggles)
         working << QString::fromLatin1(t.item);
     for (const auto& e : shell::main_menu())
@@ -131,6 +133,16 @@ void frmprincipal::executar_item(const QString& name) {
         }
     if (name == QLatin1String("mnusair")) {
         close();
+    } else if (name == QLatin1String("mnucaddespesas")) {
+        adicionarpagar();
+    } else if (name == QLatin1String("mnucadrececeber")) {
+        adicionarreceber();
+    } else if (name == QLatin1String("mnucadbancario")) {
+        adicionarmovimento();
+    } else if (name == QLatin1String("mnucadbancos")) {
+        adicionarbanco();
+    } else if (name == QLatin1String("mnumostrardicadia")) {
+        frmdica::mostrar_por_pedido(this);
     } else if (name == QLatin1String("mnuexibirprincipal")) {
         mnuexibirprincipal_click();
     } else if (name == QLatin1String("mnuiniciar")) {
@@ -166,6 +178,7 @@ void frmprincipal::mnuexibirprincipal_click() {
         carregarpagar();
         carregarreceber();
         carregarbancario();
+        carregarbancos();
         CarregarConfigSoft();
     }
 }
@@ -202,9 +215,4 @@ void frmprincipal::ligar_botoes() {
         r.button->setEnabled(a && a->isEnabled());
         connect(r.button, &QPushButton::clicked, this, [this, name]() { executar_item(name); });
     }
-    // the list actions come with the entry windows
-    for (QPushButton* b : {cmdadicionard, cmdmultiplosp, cmdalterard, cmdremoverd, cmdrecibod, cmdadicionarr,
-                           cmdmultiplosr, cmdalterarr, cmdremoverr, cmdrecibor, cmdadicionarm, cmdalterarm,
-                           cmdremoverm, cmdadicionarb, cmdalterarb, cmdremoverb})
-        b->setEnabled(false);
 }

@@ -6,16 +6,13 @@
 #include "shell/frmprincipal.h"
 #include "store/vb_text.h"
 
-#include <algorithm>
-
 void frmprincipal::adicionarmovimento() {
     frmmovimentobanc::instance()->mostrar();
 }
 
 void frmprincipal::alterarmovimento() {
-    if (lstmovimento->row_count() == 0) return;
-    // The list always has a selected item while it has rows: the first one until another is chosen.
-    const int row = std::max(lstmovimento->selected_row(), 0);
+    const int row = lstmovimento->selected_row();
+    if (lstmovimento->row_count() == 0 || row < 0) return;
     codigoselecionado = vb::val(lstmovimento->text(row, 0));
     frmeditarbancario* w = frmeditarbancario::instance();
     // Errors ignored: a row that cannot be read leaves the fields as they are.

@@ -1,13 +1,141 @@
 #include "platform/sql/jet_dialect.h"
 
+#include "platform/sql/unicode_like.h"
+
+#include <QChar>
 #include <QRegularExpression>
+#include <QStringView>
 
 namespace sql {
 
 namespace {
 // A private-use character stands for an apostrophe that came with a value.
 constexpr char16_t poison = u'\uE000';
+
+bool is_name_char(QChar c) {
+    return c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char('.') || c == QLatin1Char('[') ||
+           c == QLatin1Char(']');
+}
+
+bool is_blank(QChar c) {
+    return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\r') ||
+           c == QLatin1Char('\n');
+}
+
+// The word (or single character) before position `end`, skipping blanks; empty at the start.
+QStringView word_before(const QString& s, qsizetype end) {
+    while (end > 0 && is_blank(s[end - 1]))
+        --end;
+    qsizetype b = end;
+    while (b > 0 && is_name_char(s[b - 1]))
+        --b;
+    if (b == end && end > 0) --b;
+    return QStringView(s).mid(b, end - b);
+}
+
+QStringView word_after(const QString& s, qsizetype from) {
+    while (from < s.size() && is_blank(s[from]))
+        ++from;
+    qsizetype e = from;
+    while (e < s.size() && is_name_char(s[e]))
+        ++e;
+    if (e == from && e < s.size()) ++e;
+    return QStringView(s).mid(from, e - from);
+}
+
+bool one_of(QStringView w, std::initializer_list<const char*> words) {
+    for (const char* x : words)
+        if (w.compare(QLatin1String(x), Qt::CaseInsensitive) == 0) return true;
+    return false;
+}
+
+// What may stand before and after `name like 'text'` so that nothing binds tighter than LIKE to
+// either side.
+bool opens_term(QStringView w) {
+    return w.isEmpty() || w == u"(" || w == u"," ||
+           one_of(w, {"where", "and", "or", "not", "on", "when", "then", "else", "having"});
+}
+
+bool closes_term(QStringView w) {
+    return w.isEmpty() || w == u")" || w == u"," || w == u";" ||
+           one_of(w,
+                  {"and", "or", "order", "group", "limit", "having", "then", "else", "end", "when", "union"});
+}
+
+bool is_column_name(QStringView w) {
+    if (w.isEmpty() || w.front().isDigit()) return false;
+    for (QChar c : w)
+        if (!is_name_char(c)) return false;
+    return !one_of(w, {"not", "and", "or", "where", "on", "when", "then", "else", "having", "select", "from",
+                       "case", "is", "in", "like", "escape", "collate", "between"});
+}
+
+bool starts_word(const QString& s, qsizetype i, QLatin1String word) {
+    if (i + word.size() > s.size()) return false;
+    if (QStringView(s).mid(i, word.size()).compare(word, Qt::CaseInsensitive) != 0) return false;
+    const bool before = i == 0 || !is_name_char(s[i - 1]);
+    const bool after = i + word.size() == s.size() || !is_name_char(s[i + word.size()]);
+    return before && after;
+}
+
 } // namespace
+
+QString fold_like_literals(const QString& s) {
+    // reads only: a removal or a change by name runs once, not in a loop
+    qsizetype first = 0;
+    while (first < s.size() && is_blank(s[first]))
+        ++first;
+    if (!starts_word(s, first, QLatin1String("select"))) return s;
+    QString out;
+    qsizetype copied = 0;
+    bool in_text = false;
+    for (qsizetype i = 0; i < s.size(); ++i) {
+        if (s[i] == QLatin1Char('\'')) {
+            in_text = !in_text;
+            continue;
+        }
+        if (in_text || !starts_word(s, i, QLatin1String("like"))) continue;
+        // the column before LIKE, and what stands before it
+        const QStringView name = word_before(s, i);
+        if (!is_column_name(name)) continue;
+        const qsizetype name_start = name.data() - s.constData();
+        if (!opens_term(word_before(s, name_start))) continue;
+        // the text after it, bare or in brackets
+        qsizetype j = i + 4;
+        while (j < s.size() && is_blank(s[j]))
+            ++j;
+        const bool bracket = j < s.size() && s[j] == QLatin1Char('(');
+        if (bracket) {
+            ++j;
+            while (j < s.size() && is_blank(s[j]))
+                ++j;
+        }
+        if (j >= s.size() || s[j] != QLatin1Char('\'')) continue;
+        const qsizetype close = s.indexOf(QLatin1Char('\''), j + 1);
+        if (close < 0 || (close + 1 < s.size() && s[close + 1] == QLatin1Char('\''))) continue;
+        const QStringView text = QStringView(s).mid(j + 1, close - j - 1);
+        if (text.contains(QLatin1Char('%')) || text.contains(QLatin1Char('_'))) continue;
+        qsizetype k = close + 1;
+        if (bracket) {
+            while (k < s.size() && is_blank(s[k]))
+                ++k;
+            if (k >= s.size() || s[k] != QLatin1Char(')')) continue;
+            ++k;
+        }
+        if (!closes_term(word_after(s, k))) continue;
+        out += QStringView(s).mid(copied, name_start - copied);
+        out += QStringLiteral("(quintara_fold(");
+        out += name;
+        out += QStringLiteral(") = quintara_fold('");
+        out += text;
+        out += QStringLiteral("'))");
+        copied = k;
+        i = k - 1;
+    }
+    if (copied == 0) return s;
+    out += QStringView(s).mid(copied);
+    return out;
+}
 
 QString value(const QString& v) {
     if (!v.contains(QLatin1Char('\'')) && !v.contains(QChar(poison))) return v;
@@ -40,7 +168,7 @@ QString jet_dialect(const QString& statement) {
                                                 QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression between(QStringLiteral("\\bBETWEEN\\s+'([^']*)'\\s+AND\\s+'([^']*)'"),
                                             QRegularExpression::CaseInsensitiveOption);
-    QString s = statement;
+    QString s = fold_like_literals(statement);
     s.replace(delete_star, QStringLiteral("DELETE FROM"));
     if (!s.contains(between)) return s;
     // The old database took BETWEEN's bounds in either order; SQLite wants the lower first.

@@ -18,7 +18,14 @@ bool has_poisoned_value(const QString& statement);
 // The statement without the marks, as the user would have written it (for error texts).
 QString without_marks(const QString& statement);
 
-// Delete * from -> DELETE FROM; BETWEEN with its literal bounds in reverse order -> in order.
+// Delete * from -> DELETE FROM; BETWEEN with its literal bounds in reverse order -> in order;
+// in a SELECT, `name like ('text')` with no wildcard in the text -> fold_like_literals below.
 QString jet_dialect(const QString& statement);
+
+// `name like 'text'` and `name like ('text')` whose text holds neither '%' nor '_' become
+// `(quintara_fold(name) = quintara_fold('text'))`: the very same rows, since without wildcards LIKE
+// is equality of the case-folded texts, but an index on quintara_fold(name) can find them.
+// Only a plain column name standing alone between AND/OR/WHERE/brackets is touched.
+QString fold_like_literals(const QString& statement);
 
 } // namespace sql

@@ -1,4 +1,5 @@
 #pragma once
+#include <string>
 #include <string_view>
 
 namespace sql {
@@ -7,5 +8,10 @@ namespace sql {
 // letters compared without regard to case over all of Unicode ('ITAÚ' LIKE 'itaú').
 // Both texts are UTF-8.
 bool unicode_like(std::string_view text, std::string_view pattern);
+
+// The text as LIKE compares it: each character case-folded, as UTF-8. The SQL function
+// quintara_fold returns it as a blob (null for null); every connection of the process has it, so an
+// index on it serves `name like 'text'` without wildcards.
+std::string unicode_fold(std::string_view text);
 
 } // namespace sql

@@ -180,15 +180,17 @@ TEST_F(startup, an_empty_list_keeps_its_look_until_it_has_rows) {
     login()->abrir();
     auto* p = frmprincipal::instance();
     EXPECT_FALSE(p->lstpagar->alternatingRowColors());
-    exec(QStringLiteral("INSERT INTO pagar (estatus, data, Valor, vencimento) VALUES ('Pendente', '2026/11/23', "
-                        "'10,00', '2026/11/30')"));
+    exec(QStringLiteral(
+        "INSERT INTO pagar (estatus, data, Valor, vencimento) VALUES ('Pendente', '2026/11/23', "
+        "'10,00', '2026/11/30')"));
     p->carregarpagar();
     p->CarregarConfigSoft();
     EXPECT_TRUE(p->lstpagar->alternatingRowColors());
     EXPECT_EQ(p->lstpagar->palette().color(QPalette::Base), QColor(0xFF, 0xFF, 0xC0));
     EXPECT_EQ(p->lstpagar->palette().color(QPalette::AlternateBase), QColor(0xE0, 0xE0, 0xE0));
-    EXPECT_EQ(p->lblpagarest->text(), QStringLiteral("1 cadastros  -  Total de despesas: R$ 10,00  -  Total pago: R$ "
-                                                     "0,00  -  Total pendente: R$ 10,00"));
+    EXPECT_EQ(p->lblpagarest->text(),
+              QStringLiteral("1 cadastros  -  Total de despesas: R$ 10,00  -  Total pago: R$ "
+                             "0,00  -  Total pendente: R$ 10,00"));
 }
 
 } // namespace

@@ -1,0 +1,223 @@
+#include "banks/balance.h"
+
+#include "platform/sql/jet_dialect.h"
+#include "platform/sql/recordset.h"
+#include "store/conexao.h"
+#include "store/config.h"
+
+namespace banks {
+
+namespace {
+
+const QString concluido_e_origem = QStringLiteral("WHERE estatus like ('Concluído') AND origem like ('");
+const QString transferencia = QStringLiteral("') and movimento like ('Transferência entre contas')");
+const QString line = QStringLiteral("\n");
+
+// A failed addition is skipped, as the old loaders ran with errors ignored.
+void add_to(vb::currency& sum, vb::currency v) {
+    try {
+        sum += v;
+    } catch (const vb::overflow_error&) {
+    }
+}
+
+void subtract_from(vb::currency& sum, vb::currency v) {
+    try {
+        sum -= v;
+    } catch (const vb::overflow_error&) {
+    }
+}
+
+vb::currency amount_or_zero(const QString& text) {
+    try {
+        return vb::ccur(text).value_or(vb::currency());
+    } catch (const vb::overflow_error&) {
+        return vb::currency();
+    }
+}
+
+// CStr of a currency value: no grouping, a comma only when there are decimals ("8730,45", "12500").
+QString plain_currency_text(vb::currency v) {
+    const std::int64_t raw = v.raw();
+    const bool negative = raw < 0;
+    const std::uint64_t mag = negative ? std::uint64_t(0) - std::uint64_t(raw) : std::uint64_t(raw);
+    QString s = QString::number(mag / 10000);
+    std::uint64_t frac = mag % 10000;
+    if (frac) {
+        QString digits = QStringLiteral("%1").arg(frac, 4, 10, QLatin1Char('0'));
+        while (digits.endsWith(QLatin1Char('0')))
+            digits.chop(1);
+        s += QLatin1Char(',') + digits;
+    }
+    return negative ? QLatin1Char('-') + s : s;
+}
+
+enum class effect { less, more, by_kind };
+
+} // namespace
+
+std::array<QString, 5> balance_statements(const QString& nome, const std::optional<period>& periodo) {
+    const QString n = sql::value(nome);
+    std::array<QString, 5> s = {
+        QStringLiteral("Select * from pagar ") + concluido_e_origem + n + QStringLiteral("')"),
+        QStringLiteral("Select * from receber ") + concluido_e_origem + n + QStringLiteral("')"),
+        QStringLiteral("Select * from bancario ") + concluido_e_origem + n + QStringLiteral("')"),
+        QStringLiteral("Select * from bancario ") + concluido_e_origem + n + transferencia,
+        QStringLiteral("Select * from bancario WHERE estatus like ('Concluído') AND destino like ('") + n +
+            transferencia,
+    };
+    if (periodo) {
+        const QString tail = QStringLiteral(" AND data BETWEEN ('") + sql::value(periodo->de) +
+                             QStringLiteral("') AND ('") + sql::value(periodo->ate) + QStringLiteral("')");
+        for (QString& x : s)
+            x += tail;
+    }
+    return s;
+}
+
+std::optional<vb::currency> rounded_amount(const QString& stored) {
+    std::optional<vb::currency> c;
+    try {
+        c = vb::ccur(stored);
+    } catch (const vb::overflow_error&) {
+        return std::nullopt;
+    }
+    if (!c) return std::nullopt;
+    // half away from zero at the cent, as the format rounds
+    const std::int64_t raw = c->raw();
+    const std::int64_t mag = raw < 0 ? -raw : raw;
+    const std::int64_t cents = mag / 100 + ((mag % 100) >= 50 ? 1 : 0);
+    return vb::currency::from_raw((raw < 0 ? -cents : cents) * 100);
+}
+
+account_balance compute_balance(const sql::connection_ptr& conn, const QString& nome, const QString& saldo,
+                                const std::optional<period>& periodo) {
+    account_balance b;
+    b.inicial = rounded_amount(saldo).value_or(vb::currency());
+    b.total = b.inicial;
+    const auto statements = balance_statements(nome, periodo);
+    const effect effects[5] = {effect::less, effect::more, effect::by_kind, effect::less, effect::more};
+    vb::currency* sums[5] = {&b.despesas, &b.receitas, nullptr, &b.transferido, &b.recebido};
+    for (std::size_t i = 0; i < statements.size(); ++i) {
+        try {
+            sql::recordset rs;
+            rs.open(statements[i], conn, sql::keyset, sql::read_only);
+            const int valor = rs.index_of(QStringLiteral("Valor"));
+            const int movimento =
+                effects[i] == effect::by_kind ? rs.index_of(QStringLiteral("movimento")) : -1;
+            for (; !rs.eof(); rs.move_next()) {
+                const auto v = rounded_amount(rs.text(valor));
+                if (!v) continue;
+                effect e = effects[i];
+                vb::currency* sum = sums[i];
+                if (e == effect::by_kind) {
+                    const QString kind = rs.text(movimento);
+                    if (kind == store::palavra::deposito) {
+                        e = effect::more;
+                        sum = &b.depositos;
+                    } else if (kind == store::palavra::retirada) {
+                        e = effect::less;
+                        sum = &b.retiradas;
+                    } else {
+                        continue;
+                    }
+                }
+                add_to(*sum, *v);
+                if (e == effect::more)
+                    add_to(b.total, *v);
+                else
+                    subtract_from(b.total, *v);
+            }
+        } catch (const sql::error&) {
+            ++b.falhas;
+        }
+    }
+    return b;
+}
+
+QString list_amount(vb::currency v) {
+    return QStringLiteral("R$ ") + vb::format_money(v);
+}
+
+QString list_amount_text(const QString& stored) {
+    QString shown;
+    try {
+        shown = vb::reformat_money_text(stored);
+    } catch (const vb::overflow_error&) {
+        shown = stored;
+    }
+    return QStringLiteral("R$ ") + shown;
+}
+
+bool atualizar_saldo() {
+    return vb::val(store::setting(store::secao_config, QStringLiteral("AtualizarSaldo"),
+                                  QStringLiteral("1"))) != 0.0;
+}
+
+std::vector<QStringList> account_rows(bool atualizar, const account_rows_hooks& hooks) {
+    std::vector<QStringList> rows;
+    store::conectarbanco();
+    try {
+        sql::recordset rs;
+        rs.open(QStringLiteral("SELECT * FROM banco"), store::conexao, sql::keyset, sql::read_only);
+        const int banco = rs.index_of(store::coluna::banco);
+        const int informacoes = rs.index_of(store::coluna::informacoes);
+        const int saldo = rs.index_of(store::coluna::saldo);
+        if (rs.eof()) return rows;
+        if (atualizar && hooks.before_walk) hooks.before_walk(int(rs.record_count()));
+        rows.reserve(std::size_t(rs.record_count()));
+        int feitas = 0;
+        for (; !rs.eof(); rs.move_next()) {
+            const QString nome = rs.text(banco);
+            const QString inicial = rs.text(saldo);
+            const QString info = rs.text(informacoes);
+            if (!atualizar) {
+                const QString shown = list_amount_text(inicial);
+                rows.push_back({nome, shown, info, shown});
+                continue;
+            }
+            const account_balance b = compute_balance(store::conexao, nome, inicial);
+            rows.push_back({nome, list_amount(b.total), info, list_amount_text(inicial)});
+            if (hooks.progress) hooks.progress(++feitas);
+        }
+    } catch (const sql::error&) {
+        // errors ignored: what was read stays
+    }
+    return rows;
+}
+
+QString resumo_caixa(const std::vector<QStringList>& rows) {
+    QString out;
+    vb::currency soma_inicial, soma_atual, soma_movimento;
+    for (const QStringList& row : rows) {
+        const auto cell = [&row](int i) { return i < row.size() ? row[i] : QString(); };
+        const vb::currency inicial = amount_or_zero(cell(3));
+        const vb::currency atual = amount_or_zero(cell(1));
+        vb::currency movimento;
+        try {
+            movimento = atual - inicial;
+        } catch (const vb::overflow_error&) {
+        }
+        add_to(soma_inicial, inicial);
+        add_to(soma_atual, atual);
+        add_to(soma_movimento, movimento);
+        out += QStringLiteral("Caixa/Banco: ") + cell(0) + QLatin1Char('(') + cell(2) + QLatin1Char(')') +
+               line + QStringLiteral("O saldo neste banco inicio com R$ ") + plain_currency_text(inicial) +
+               line + QStringLiteral("O saldo atual é R$ ") + vb::format_money(atual) + line +
+               QStringLiteral("Movimentação de R$ ") + vb::format_money(movimento) + line + QLatin1Char('.') +
+               line;
+    }
+    out += line + QLatin1Char('.') + line + QStringLiteral(" > REFERÊNCIAS RÁPIDAS");
+    const struct {
+        const char16_t* titulo;
+        vb::currency soma;
+    } totais[] = {{u"Valor total em caixa/banco", soma_atual},
+                  {u"Valor total de inicio em caixa/banco", soma_inicial},
+                  {u"Saldo total de movimentação ", soma_movimento}};
+    for (const auto& t : totais)
+        out += QString::fromUtf16(t.titulo) + line + QStringLiteral("R$ ") + vb::format_money(t.soma) + line +
+               line;
+    return out;
+}
+
+} // namespace banks

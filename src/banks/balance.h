@@ -1,0 +1,71 @@
+#pragma once
+// The balance of a bank or cash account, worked out from its opening balance and every settled
+// row of pagar, receber and bancario that names it; nothing of it is ever stored. Also the rows
+// of the accounts list and the summary text written from them.
+
+#include "platform/sql/connection.h"
+#include "store/vb_text.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace banks {
+
+// A period over the column `data`, both ends as "yyyy/mm/dd" text. A first day after the last
+// finds no rows: the bounds are taken as given.
+struct period {
+    QString de;
+    QString ate;
+};
+
+// The five statements of one account, in the order they run: expenses, income, movements,
+// transfers out, transfers in. Without a period they are the list's statements; with one, each
+// also asks for `data` between the two days.
+std::array<QString, 5> balance_statements(const QString& nome, const std::optional<period>& periodo = {});
+
+// An amount as it enters a sum: the stored text through "##,##0.00" and read back, so every
+// addend is rounded to the cent. Empty when the text is no amount.
+std::optional<vb::currency> rounded_amount(const QString& stored);
+
+// What the statements found for one account. `total` is the balance: the opening balance, less
+// expenses, withdrawals and transfers out, plus income, deposits and transfers in.
+struct account_balance {
+    vb::currency inicial;
+    vb::currency total;
+    vb::currency despesas, receitas, depositos, retiradas, transferido, recebido;
+    // Statements that could not be run (a name holding an apostrophe fails all five).
+    int falhas = 0;
+};
+
+// Runs the five statements for the account on the connection. A statement that fails is
+// skipped and the others still count; an amount that cannot be read adds nothing.
+account_balance compute_balance(const sql::connection_ptr& conn, const QString& nome, const QString& saldo,
+                                const std::optional<period>& periodo = {});
+
+// "R$ " and the amount as the accounts list shows it ("R$ -5,00" for a negative one); a stored
+// text that is no amount follows the prefix as it is.
+QString list_amount(vb::currency v);
+QString list_amount_text(const QString& stored);
+
+// The rows of the accounts list (banco, current balance, informacoes, opening balance), in the
+// table's order. With `atualizar` false the opening balance stands in for the current one.
+// Connects first; a failure to read the accounts gives no rows. before_walk runs once the
+// accounts are known and there is at least one, with their number; progress after each one.
+struct account_rows_hooks {
+    std::function<void(int contas)> before_walk;
+    std::function<void(int feitas)> progress;
+};
+std::vector<QStringList> account_rows(bool atualizar, const account_rows_hooks& hooks = {});
+
+// Whether the balances are worked out: the setting AtualizarSaldo, off only when numerically 0.
+bool atualizar_saldo();
+
+// The summary of the accounts beside the list, from the list's rows alone (columns 0 to 3).
+QString resumo_caixa(const std::vector<QStringList>& rows);
+
+} // namespace banks

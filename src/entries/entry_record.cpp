@@ -1,0 +1,161 @@
+#include "entries/entry_record.h"
+
+#include "platform/sql/jet_dialect.h"
+#include "store/conexao.h"
+#include "store/vb_text.h"
+
+namespace entries {
+
+namespace {
+
+const QString dmy_format = QStringLiteral("dd/mm/yyyy");
+const QString ymd_format = QStringLiteral("yyyy/mm/dd");
+
+} // namespace
+
+QString trim_blanks(const QString& text) {
+    qsizetype b = 0, e = text.size();
+    while (b < e && text[b] == QLatin1Char(' '))
+        ++b;
+    while (e > b && text[e - 1] == QLatin1Char(' '))
+        --e;
+    return text.mid(b, e - b);
+}
+
+QString blank_fields_message(const entry_fields& f) {
+    const struct {
+        const QString& field;
+        const char16_t* label;
+    } required[] = {{f.descricao, u"Descrição"},
+                    {f.nome, u"Forcenedor/cliente"},
+                    {f.valor, u"Valor"},
+                    {f.data, u"Data"},
+                    {f.vencimento, u"Vencimento"}};
+    QString faltando;
+    for (const auto& r : required)
+        if (trim_blanks(r.field).isEmpty()) faltando += QLatin1Char('\n') + QString::fromUtf16(r.label);
+    if (faltando.isEmpty()) return {};
+    return QStringLiteral("Os seguintes dados estão em branco: ") + QLatin1Char('\n') + faltando;
+}
+
+kind kind_of_caption(const QString& caption, const QString& expense_caption) {
+    return caption.toLower() == expense_caption ? kind::despesa : kind::receita;
+}
+
+QString table_of(kind k) {
+    return k == kind::despesa ? store::tabela::pagar : store::tabela::receber;
+}
+
+QString name_column(kind k) {
+    return k == kind::despesa ? store::coluna::fornecedor : store::coluna::cliente;
+}
+
+QString with_trailing_blank(const QString& text) {
+    return trim_blanks(text) + QLatin1Char(' ');
+}
+
+void write_columns(sql::recordset& rs, kind k, const entry_fields& f) {
+    using namespace store::coluna;
+    rs.set(estatus, f.estatus);
+    rs.set(origem, f.origem);
+    rs.set(name_column(k), f.nome);
+    rs.set(data, vb::format_date_text(f.data, ymd_format));
+    rs.set(descricao, f.descricao);
+    rs.set(documento, with_trailing_blank(f.documento));
+    rs.set(informacoes, with_trailing_blank(f.informacoes));
+    rs.set(valor, vb::reformat_money_text(f.valor));
+    rs.set(vencimento, vb::format_date_text(f.vencimento, ymd_format));
+    rs.set(moeda, f.moeda);
+}
+
+QString entry_statement(kind k, const QString& codigo) {
+    return QStringLiteral("SELECT * FROM ") + table_of(k) + QStringLiteral(" where(código like '") +
+           sql::value(codigo) + QStringLiteral("')");
+}
+
+entry_row read_columns(const sql::recordset& rs, kind k) {
+    using namespace store::coluna;
+    const auto read = [&rs](const QString& column, auto shown) {
+        read_field r;
+        try {
+            r.text = shown(rs.text(column));
+            r.ok = true;
+        } catch (const sql::error&) {
+        } catch (const vb::overflow_error&) {
+        }
+        return r;
+    };
+    const auto as_is = [](const QString& t) { return t; };
+    const auto as_date = [](const QString& t) { return vb::format_date_text(t, dmy_format); };
+    const auto as_money = [](const QString& t) { return vb::reformat_money_text(t); };
+    entry_row row;
+    row.estatus = read(estatus, as_is);
+    row.origem = read(origem, as_is);
+    row.nome = read(name_column(k), as_is);
+    row.data = read(data, as_date);
+    row.descricao = read(descricao, as_is);
+    row.documento = read(documento, as_is);
+    row.informacoes = read(informacoes, as_is);
+    row.valor = read(valor, as_money);
+    row.vencimento = read(vencimento, as_date);
+    row.moeda = read(moeda, as_is);
+    return row;
+}
+
+list_source banks_for_adding() {
+    return {QStringLiteral("select * from banco order by [banco]"), store::coluna::banco};
+}
+
+list_source banks_for_editing() {
+    return {QStringLiteral("select * from banco order by banco"), store::coluna::banco};
+}
+
+list_source suppliers() {
+    return {QStringLiteral("select * from fornecedor order by nome"), store::coluna::nome};
+}
+
+list_source clients() {
+    return {QStringLiteral("select * from cliente order by nome"), store::coluna::nome};
+}
+
+list_source cost_centres() {
+    return {QStringLiteral("Select * from pcontapagar order by descricao"), store::coluna::descricao};
+}
+
+list_source profit_centres() {
+    return {QStringLiteral("Select * from pcontareceber order by descricao"), store::coluna::descricao};
+}
+
+QStringList read_names(const list_source& s) {
+    store::conectarbanco();
+    sql::recordset rs;
+    rs.open(s.statement, store::conexao, sql::keyset, sql::read_only);
+    const int col = rs.index_of(s.column);
+    QStringList names;
+    names.reserve(qsizetype(rs.record_count()));
+    for (; !rs.eof(); rs.move_next())
+        names << rs.text(col);
+    return names;
+}
+
+dress dress_for_adding(kind k) {
+    if (k == kind::despesa)
+        return {QStringLiteral("Adicionar Contas a pagar - Despesa"), true,
+                QStringLiteral("&Inserir despesa")};
+    return {QStringLiteral("Adicionar Contas a receber - Receita"), false,
+            QStringLiteral("&Inserir receita")};
+}
+
+dress dress_for_editing(kind k) {
+    // the title still reads "Adicionar": only the button tells editing from adding
+    dress d = dress_for_adding(k);
+    d.botao = k == kind::despesa ? QStringLiteral("&Editar despesa") : QStringLiteral("&Editar receita");
+    return d;
+}
+
+QString saved_message(kind k) {
+    return k == kind::despesa ? QStringLiteral("Despesa cadastrada com sucesso!")
+                              : QStringLiteral("Receita cadastrada com sucesso!");
+}
+
+} // namespace entries

@@ -1,0 +1,94 @@
+#pragma once
+// One expense (pagar) or one income (receber) as the entry windows type it in and write it: the
+// required fields and their message, the ten columns in their fixed order, the statements that
+// fill the boxes, and how the windows are dressed for each kind.
+
+#include "platform/sql/recordset.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace entries {
+
+enum class kind { despesa, receita };
+
+// What the boxes of an entry window show. Dates are "dd/mm/yyyy", or empty when the field holds
+// no date.
+struct entry_fields {
+    QString estatus;
+    QString origem;
+    QString nome; // fornecedor or cliente
+    QString data;
+    QString descricao;
+    QString documento;
+    QString informacoes;
+    QString valor;
+    QString vencimento;
+    QString moeda;
+};
+
+// Trim as the old runtime trimmed: blanks only, other white space stays.
+QString trim_blanks(const QString& text);
+
+// "Os seguintes dados estão em branco: " with one line per required field left blank (a field of
+// blanks is blank), in the fixed order; empty when all five are filled.
+QString blank_fields_message(const entry_fields& f);
+
+// The kind a window writes, told by its action button: the caption, lower-cased, against the
+// expense caption ("&inserir despesa", "&editar despesa"); anything else is an income.
+kind kind_of_caption(const QString& caption, const QString& expense_caption);
+
+QString table_of(kind k);
+QString name_column(kind k);
+
+// The text stored for a free text column that may be blank: trimmed, and one blank behind.
+QString with_trailing_blank(const QString& text);
+
+// Sets the ten columns on the record set's new or current row, in their fixed order: estatus,
+// origem, fornecedor/cliente, data, descricao, documento, informacoes, Valor, vencimento, moeda.
+// Throws sql::error (and vb::overflow_error for an amount out of range).
+void write_columns(sql::recordset& rs, kind k, const entry_fields& f);
+
+// "SELECT * FROM pagar where(código like '12')", the key compared as text.
+QString entry_statement(kind k, const QString& codigo);
+
+// A row as the edit window shows it: dates in "dd/mm/yyyy", the amount in "##,##0.00". A column
+// that cannot be read is not ok: its field keeps what it had.
+struct read_field {
+    bool ok = false;
+    QString text;
+};
+struct entry_row {
+    read_field estatus, origem, nome, data, descricao, documento, informacoes, valor, vencimento, moeda;
+};
+entry_row read_columns(const sql::recordset& rs, kind k);
+
+// The statements that fill the boxes, with the column they read.
+struct list_source {
+    QString statement;
+    QString column;
+};
+list_source banks_for_adding();  // "select * from banco order by [banco]"
+list_source banks_for_editing(); // "select * from banco order by banco"
+list_source suppliers();
+list_source clients();
+list_source cost_centres();
+list_source profit_centres();
+
+// conectarbanco, the statement read-only, every row's column. Throws sql::error.
+QStringList read_names(const list_source& s);
+
+// How the main window dresses an entry window: its caption, the picture shown and the caption of
+// the action button.
+struct dress {
+    QString titulo;
+    bool despesa;
+    QString botao;
+};
+dress dress_for_adding(kind k);
+dress dress_for_editing(kind k);
+
+// The message of the continuing mode.
+QString saved_message(kind k);
+
+} // namespace entries

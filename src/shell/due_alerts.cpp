@@ -1,0 +1,37 @@
+#include "shell/due_alerts.h"
+
+#include "platform/sql/jet_dialect.h"
+#include "shell/ledger_load.h"
+#include "store/conexao.h"
+#include "store/vb_text.h"
+
+#include <exception>
+
+namespace shell {
+
+QString due_statement(ledger which, const QDate& today) {
+    const QString tabela = which == ledger::receber ? QStringLiteral("receber") : QStringLiteral("pagar");
+    return QStringLiteral("SELECT * FROM ") + tabela + QStringLiteral(" where vencimento like '") +
+           sql::value(vb::ymd(today)) + QLatin1Char('\'');
+}
+
+std::vector<QStringList> load_due(ledger which, const QDate& today) {
+    try {
+        sql::recordset rs;
+        rs.open(due_statement(which, today), store::conexao, sql::keyset, sql::read_only);
+        return load_rows(which, rs).rows;
+    } catch (const std::exception&) {
+        // errors are ignored: the list stays empty
+        return {};
+    }
+}
+
+due_rows load_due_rows(const QDate& today) {
+    store::conectarbanco();
+    due_rows d;
+    d.pagar = load_due(ledger::pagar, today);
+    d.receber = load_due(ledger::receber, today);
+    return d;
+}
+
+} // namespace shell
