@@ -313,6 +313,9 @@ void frmprincipal::mostrar() {
     show();
     raise();
     activateWindow();
+    // windows that stay on top (the tip, the alerts) opened during the opening stay above this one
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w != this && w->isVisible() && (w->windowFlags() & Qt::WindowStaysOnTopHint)) w->raise();
     if (primeira) ativar();
 }
 
