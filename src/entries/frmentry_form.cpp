@@ -5,6 +5,7 @@
 #include "platform/prompts.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/field_helpers.h"
+#include "platform/widgets/form_builders.h"
 #include "platform/widgets/money_field.h"
 #include "shell/frmprincipal.h"
 #include "store/conexao.h"
@@ -27,39 +28,8 @@
 
 namespace {
 
-template <class W> W* named(W* w, const char* name) {
-    w->setObjectName(QString::fromLatin1(name));
-    return w;
-}
-
-// A box chosen from its list and never typed in; the code may still show any text in it.
-QComboBox* chosen_box(const char* name) {
-    auto* c = named(new QComboBox, name);
-    c->setEditable(true);
-    c->setInsertPolicy(QComboBox::NoInsert);
-    c->setCompleter(nullptr);
-    discard_keys(c);
-    return c;
-}
-
-// A box typed in, completed from its list as the user types.
-QComboBox* typed_box(const char* name) {
-    auto* c = named(new QComboBox, name);
-    c->setEditable(true);
-    c->setInsertPolicy(QComboBox::NoInsert);
-    autocomplete_on_key_up(c);
-    return c;
-}
-
 QPushButton* button(const char* name, const QString& caption) {
     return named(new QPushButton(caption), name);
-}
-
-QLabel* picture(const char* name, QStyle::StandardPixmap icon) {
-    auto* l = named(new QLabel, name);
-    l->setPixmap(QApplication::style()->standardIcon(icon).pixmap(32, 32));
-    l->hide();
-    return l;
 }
 
 } // namespace
@@ -195,9 +165,7 @@ void entry_form::carregar_lista(QComboBox* box, const entries::list_source& s) {
     } catch (const std::exception&) {
         // errors ignored: the box is left empty
     }
-    box->clear();
-    box->addItems(names);
-    box->setEditText(names.isEmpty() ? QString() : names.front());
+    fill_names(box, names);
 }
 
 void entry_form::carregarbanco() {

@@ -1,4 +1,5 @@
 #include "shell/frmalerta.h"
+#include "platform/widgets/form_builders.h"
 
 #include "platform/clock.h"
 #include "platform/widgets/field_helpers.h"
@@ -17,11 +18,6 @@ using shell::ledger;
 QPointer<frmalerta> frmalerta::carregada_;
 
 namespace {
-
-template <class W> W* named(W* w, const char* name) {
-    w->setObjectName(QString::fromLatin1(name));
-    return w;
-}
 
 void definir_colunas(list_view* l, ledger which) {
     l->clear_columns();

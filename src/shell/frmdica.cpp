@@ -1,4 +1,5 @@
 #include "shell/frmdica.h"
+#include "platform/widgets/form_builders.h"
 
 #include "platform/widgets/field_helpers.h"
 #include "store/config.h"
@@ -18,11 +19,6 @@ QPointer<frmdica> frmdica::carregada_;
 shell::random_source frmdica::fonte_;
 
 namespace {
-
-template <class W> W* named(W* w, const char* name) {
-    w->setObjectName(QString::fromLatin1(name));
-    return w;
-}
 
 QString ler_dica() {
     return store::setting(store::secao_configuracoes, shell::chave_dica, QStringLiteral("1"));

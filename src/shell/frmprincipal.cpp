@@ -1,4 +1,5 @@
 #include "shell/frmprincipal.h"
+#include "platform/widgets/form_builders.h"
 
 #include "platform/clock.h"
 #include "platform/prompts.h"
@@ -56,11 +57,6 @@ protected:
 private:
     QPixmap picture_;
 };
-
-template <class W> W* named(W* w, const char* name) {
-    w->setObjectName(QString::fromLatin1(name));
-    return w;
-}
 
 QPushButton* button(const char* name, const char* caption) {
     return named(new QPushButton(QString::fromUtf8(caption)), name);

@@ -27,8 +27,8 @@ namespace {
 
 using rotina = void (frmprincipal::*)();
 
-// The routines this program has, by name. The instalment series and the receipt come with
-// their windows (frmmultiplos, frmrecibo): until then their controls stay disabled.
+// The routines this program has, by name. The receipt comes with its window (frmrecibo): until
+// then its controls stay disabled.
 const struct {
     const char* nome;
     rotina r;
@@ -47,6 +47,8 @@ const struct {
     {"removerbanco", &frmprincipal::removerbanco},
     {"popbaixapagar", &frmprincipal::popbaixapagar},
     {"popbaixareceber", &frmprincipal::popbaixareceber},
+    {"multiplospagar", &frmprincipal::multiplospagar},
+    {"multiplosreceber", &frmprincipal::multiplosreceber},
 };
 
 rotina rotina_de(const QString& nome) {

@@ -66,7 +66,7 @@ TEST_F(menus, every_item_exists_with_its_caption_and_only_working_items_are_enab
               QStringLiteral("Exibir menu de login ao inicar"));
     // buttons whose windows come later are disabled too
     EXPECT_TRUE(p->cmdadicionard->isEnabled());
-    EXPECT_FALSE(p->cmdmultiplosp->isEnabled());
+    EXPECT_FALSE(p->cmdrecibod->isEnabled());
     EXPECT_FALSE(p->cmdconfbanc->isEnabled());
     EXPECT_FALSE(p->findChild<QToolButton*>(QStringLiteral("clientes"))->isEnabled());
     EXPECT_TRUE(p->findChild<QToolButton*>(QStringLiteral("sair"))->isEnabled());

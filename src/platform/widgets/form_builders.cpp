@@ -1,0 +1,37 @@
+#include "platform/widgets/form_builders.h"
+
+#include "platform/widgets/field_helpers.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+
+QComboBox* chosen_box(const char* name) {
+    auto* c = named(new QComboBox, name);
+    c->setEditable(true);
+    c->setInsertPolicy(QComboBox::NoInsert);
+    c->setCompleter(nullptr);
+    discard_keys(c);
+    return c;
+}
+
+QComboBox* typed_box(const char* name) {
+    auto* c = named(new QComboBox, name);
+    c->setEditable(true);
+    c->setInsertPolicy(QComboBox::NoInsert);
+    autocomplete_on_key_up(c);
+    return c;
+}
+
+QLabel* picture(const char* name, QStyle::StandardPixmap icon) {
+    auto* l = named(new QLabel, name);
+    l->setPixmap(QApplication::style()->standardIcon(icon).pixmap(32, 32));
+    l->hide();
+    return l;
+}
+
+void fill_names(QComboBox* box, const QStringList& names) {
+    box->clear();
+    box->addItems(names);
+    box->setEditText(names.isEmpty() ? QString() : names.front());
+}
