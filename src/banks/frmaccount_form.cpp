@@ -3,6 +3,7 @@
 #include "banks/account_record.h"
 #include "platform/prompts.h"
 #include "platform/widgets/field_helpers.h"
+#include "platform/widgets/form_builders.h"
 #include "platform/widgets/money_field.h"
 #include "shell/frmprincipal.h"
 #include "store/conexao.h"
@@ -73,9 +74,7 @@ void account_form::montar(QWidget* amount_before, const QString& amount_label, c
 }
 
 void account_form::mostrar() {
-    show();
-    raise();
-    activateWindow();
+    show_form(this);
 }
 
 void account_form::erro(const QString& texto) {

@@ -4,6 +4,7 @@
 #include "platform/prompts.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/field_helpers.h"
+#include "platform/widgets/form_builders.h"
 #include "platform/widgets/money_field.h"
 #include "shell/frmprincipal.h"
 #include "store/config.h"
@@ -146,9 +147,7 @@ void movimento_window::preencher_contas() {
 }
 
 void movimento_window::mostrar() {
-    show();
-    raise();
-    activateWindow();
+    show_form(this);
 }
 
 void movimento_window::mostrar_destino(bool sim) {

@@ -196,9 +196,7 @@ void entry_form::vestir(const entries::dress& d) {
 }
 
 void entry_form::mostrar() {
-    show();
-    raise();
-    activateWindow();
+    show_form(this);
 }
 
 entries::entry_fields entry_form::campos() const {

@@ -211,9 +211,7 @@ void frmmultiplos::vestir(const entries::dress& d) {
 }
 
 void frmmultiplos::mostrar() {
-    show();
-    raise();
-    activateWindow();
+    show_form(this);
 }
 
 entries::entry_fields frmmultiplos::campos() const {

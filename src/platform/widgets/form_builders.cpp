@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QScreen>
 
 QComboBox* chosen_box(const char* name) {
     auto* c = named(new QComboBox, name);
@@ -34,4 +35,21 @@ void fill_names(QComboBox* box, const QStringList& names) {
     box->clear();
     box->addItems(names);
     box->setEditText(names.isEmpty() ? QString() : names.front());
+}
+
+void show_form(QWidget* form) {
+    if (!form->isVisible() && !form->property("quintara_placed").toBool()) {
+        form->adjustSize();
+        QWidget* over = QApplication::activeWindow();
+        QRect area;
+        if (over && over != form)
+            area = over->frameGeometry();
+        else if (QScreen* s = QGuiApplication::primaryScreen())
+            area = s->availableGeometry();
+        if (area.isValid()) form->move(area.center() - QPoint(form->width() / 2, form->height() / 2));
+        form->setProperty("quintara_placed", true);
+    }
+    form->show();
+    form->raise();
+    form->activateWindow();
 }

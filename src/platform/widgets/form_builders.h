@@ -8,6 +8,7 @@
 
 class QComboBox;
 class QLabel;
+class QWidget;
 
 template <class W> W* named(W* w, const char* name) {
     w->setObjectName(QString::fromLatin1(name));
@@ -22,3 +23,5 @@ QComboBox* typed_box(const char* name);
 QLabel* picture(const char* name, QStyle::StandardPixmap icon);
 // Refills a box with the names and shows the first one (nothing when there is none).
 void fill_names(QComboBox* box, const QStringList& names);
+// Shows a form in front, placed the first time over the middle of the window the user was in.
+void show_form(QWidget* form);
