@@ -3,37 +3,18 @@
 // buttons, the required-field check and the error handler. What differs (insert or update, the
 // continuing mode, what happens after saving and on closing) is left to the two windows.
 
-#include "entries/entry_record.h"
-
-#include <QWidget>
+#include "entries/frmentry_fields.h"
 
 class QCheckBox;
-class QComboBox;
 class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
 class atalhos;
 class date_field;
-class money_field;
 
-class entry_form : public QWidget {
+class entry_form : public entry_fields_form {
     Q_OBJECT
 public:
     ~entry_form() override;
-
-    // The boxes filled from the data file; each runs with errors ignored and leaves the box
-    // showing its first entry, or empty.
-    void carregarbanco();
-    void carregarfornecedor();
-    void carregarcliente();
-    void planopagar();
-    void planoreceber();
-
-    // Caption, picture and action button as the main window's openers give them.
-    void vestir(const entries::dress& d);
-    // Visible, in front and active.
-    void mostrar();
 
     // The event routines of the buttons.
     void cmdinserir_click();
@@ -46,23 +27,10 @@ public:
     // Unloaded (closed or about to be deleted): the next reference makes a new window.
     bool descarregado() const { return descarregado_; }
 
-    QComboBox* cboorigem;
-    QLineEdit* txtdocumento;
-    date_field* txtdata;
-    QComboBox* txtdescricao;
-    QComboBox* cbotipo;
-    QComboBox* cbomoeda;
-    money_field* txtvalor;
     date_field* txtvencimento;
-    QPlainTextEdit* txtinfo;
-    QComboBox* cboestatus;
-    QPushButton* cmdinserir;
-    QPushButton* cmdcancelar;
     QPushButton* cmdbancoinc;
     QPushButton* cmddescinc;
     QPushButton* cmdforncliinc;
-    QLabel* PIC1;
-    QLabel* PIC2;
 
 protected:
     // name: the window's name; bank_list: its statement of accounts; expense_caption: the
@@ -83,8 +51,6 @@ protected:
 
     // Unloads the window: ao_descarregar once, hidden at once, deleted later.
     void descarregar();
-    // "Erro", exclamation, with stay-on-top off around it.
-    void erro(const QString& texto);
 
     void closeEvent(QCloseEvent* e) override;
 
@@ -92,10 +58,6 @@ protected:
     static void recarregar_principal(entries::kind k, bool com_filtros);
 
 private:
-    void carregar_lista(QComboBox* box, const entries::list_source& s);
-    void ligar_datas(date_field* d);
-
-    entries::list_source bank_list_;
     QString expense_caption_;
     atalhos* atalhos_ = nullptr;
     bool descarregado_ = false;
