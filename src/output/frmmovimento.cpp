@@ -30,49 +30,26 @@ std::vector<coluna_lista> colunas_entrada(const char* contato) {
             {texto("Informações"), 3240, txt}};
 }
 
-list_view* nova_lista(QWidget* parent, const char* name, const std::vector<coluna_lista>& colunas) {
-    auto* l = new list_view(parent);
-    l->setObjectName(QString::fromLatin1(name));
-    output::montar_colunas(*l, colunas);
-    l->hide();
-    return l;
-}
-
-QPushButton* botao(QWidget* parent, const char* name, const char* caption) {
-    auto* b = new QPushButton(texto(caption), parent);
-    b->setObjectName(QString::fromLatin1(name));
-    return b;
-}
-
 } // namespace
 
-frmmovimento::frmmovimento(QWidget* parent) : QWidget(parent, Qt::Window) {
-    setObjectName(QStringLiteral("frmmovimento"));
-    setWindowTitle(QStringLiteral("Movimento"));
-
+frmmovimento::frmmovimento(QWidget* parent)
+    : report_window("frmmovimento", QStringLiteral("Movimento"), parent) {
     lblsubtitulo = new QLabel(this);
     lblsubtitulo->setObjectName(QStringLiteral("lblsubtitulo"));
-    lstpagar = nova_lista(this, "lstpagar", colunas_entrada("Fornecedor"));
-    lstreceber = nova_lista(this, "lstreceber", colunas_entrada("Cliente"));
-    lstmovimento = nova_lista(this, "lstmovimento",
-                              {{texto("Data"), 1320, dat},
-                               {texto("Tipo de movimento"), 2940, txt},
-                               {texto("Conta origem"), 2140, txt},
-                               {texto("Conta destino"), 2140, txt},
-                               {texto("Valor"), 1340, num},
-                               {texto("Estatus"), 1340, txt},
-                               {texto("Informações"), 2840, txt}});
+    lstpagar = nova_lista("lstpagar", colunas_entrada("Fornecedor"));
+    lstreceber = nova_lista("lstreceber", colunas_entrada("Cliente"));
+    lstmovimento = nova_lista("lstmovimento", {{texto("Data"), 1320, dat},
+                                               {texto("Tipo de movimento"), 2940, txt},
+                                               {texto("Conta origem"), 2140, txt},
+                                               {texto("Conta destino"), 2140, txt},
+                                               {texto("Valor"), 1340, num},
+                                               {texto("Estatus"), 1340, txt},
+                                               {texto("Informações"), 2840, txt}});
     lstpagar->show();
-    barraprogresso = new QProgressBar(this);
-    barraprogresso->setObjectName(QStringLiteral("barraprogresso"));
-    barraprogresso->setRange(0, 100);
-    barraprogresso->hide();
     lblpagarest = new QLabel(this);
     lblpagarest->setObjectName(QStringLiteral("lblpagarest"));
-    cmdimprimir = botao(this, "cmdimprimir", "Imprimir Relatório");
-    cmdtxt = botao(this, "cmdtxt", "Salvar em TXT");
-    cmdhtml = botao(this, "cmdhtml", "Salvar em HTML");
-    cmdsair = botao(this, "cmdsair", "Sair");
+    cmdsair = new QPushButton(QStringLiteral("Sair"), this);
+    cmdsair->setObjectName(QStringLiteral("cmdsair"));
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(lblsubtitulo);
@@ -87,20 +64,12 @@ frmmovimento::frmmovimento(QWidget* parent) : QWidget(parent, Qt::Window) {
     buttons->addWidget(cmdsair);
     layout->addLayout(buttons);
 
-    connect(cmdimprimir, &QPushButton::clicked, this, &frmmovimento::imprimir);
-    connect(cmdtxt, &QPushButton::clicked, this, &frmmovimento::salvartxt);
-    connect(cmdhtml, &QPushButton::clicked, this, &frmmovimento::salvarhtml);
     connect(cmdsair, &QPushButton::clicked, this, &QWidget::close);
 
-    barra_ = std::make_unique<output::barra_progresso>(barraprogresso);
-    relatorio_.set_Progresbar(barra_.get());
-    output::set_relatorio(&relatorio_);
     resize(list_view::twips_to_pixels(12500, this), list_view::twips_to_pixels(7500, this));
 }
 
-frmmovimento::~frmmovimento() {
-    if (output::relatorio() == &relatorio_) output::set_relatorio(nullptr);
-}
+frmmovimento::~frmmovimento() = default;
 
 list_view* frmmovimento::lista_de(lista l) const {
     switch (l) {
@@ -114,26 +83,15 @@ list_view* frmmovimento::lista_de(lista l) const {
     return lstpagar;
 }
 
-list_view* frmmovimento::lista_visivel() const {
-    for (list_view* l : {lstpagar, lstreceber, lstmovimento})
-        if (!l->isHidden()) return l;
-    return nullptr;
-}
-
 void frmmovimento::mostrar_lista(lista l) {
-    list_view* alvo = lista_de(l);
-    for (list_view* v : {lstpagar, lstreceber, lstmovimento})
-        v->setVisible(v == alvo);
+    mostrar(lista_de(l));
 }
 
 void frmmovimento::preencher(lista l, std::vector<QStringList>&& rows, const textos& t) {
-    list_view* alvo = lista_de(l);
-    alvo->clear_rows();
-    alvo->add_rows(std::move(rows));
+    encher(lista_de(l), std::move(rows));
     if (!t.caption.isEmpty()) setWindowTitle(t.caption);
     lblsubtitulo->setText(t.subtitulo);
     lblpagarest->setText(t.pagarest);
-    mostrar_lista(l);
 }
 
 output::report_texts frmmovimento::report_texts() const {
@@ -145,14 +103,6 @@ output::report_texts frmmovimento::report_texts() const {
     return t;
 }
 
-void frmmovimento::salvartxt() {
-    output::salvar_relatorio(output::formato_relatorio::txt, report_texts(), lista_visivel(), relatorio_);
-}
-
-void frmmovimento::salvarhtml() {
-    output::salvar_relatorio(output::formato_relatorio::html, report_texts(), lista_visivel(), relatorio_);
-}
-
 void frmmovimento::imprimir() {
     list_view* l = lista_visivel();
     if (!l) return;
@@ -161,5 +111,5 @@ void frmmovimento::imprimir() {
                         : l == lstreceber ? cabecalho::receitas
                                           : cabecalho::bancario;
     output::modimpressao::imprimir_lista(c, *l, windowTitle(), lblsubtitulo->text(), lblpagarest->text(),
-                                         barra_.get());
+                                         barra());
 }

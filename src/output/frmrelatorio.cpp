@@ -9,23 +9,6 @@
 #include <QPushButton>
 #include <QResizeEvent>
 
-namespace output {
-
-void montar_colunas(list_view& l, const std::vector<coluna_lista>& colunas) {
-    for (const coluna_lista& c : colunas)
-        l.add_column(c.texto, c.largura, c.tag);
-}
-
-void barra_progresso::set_value(double percent) {
-    b_->setValue(int(percent));
-}
-
-void barra_progresso::set_visible(bool v) {
-    b_->setVisible(v);
-}
-
-} // namespace output
-
 namespace {
 
 using output::coluna_lista;
@@ -59,14 +42,6 @@ std::vector<coluna_lista> colunas_contato(const char* nome, const char* tipo) {
             {texto("E-mail"), 2200, txt},   {texto("Site"), 2200, txt}};
 }
 
-list_view* nova_lista(QWidget* parent, const char* name, const std::vector<coluna_lista>& colunas) {
-    auto* l = new list_view(parent);
-    l->setObjectName(QString::fromLatin1(name));
-    output::montar_colunas(*l, colunas);
-    l->hide();
-    return l;
-}
-
 // Twips of the window's own layout.
 constexpr double margem = 150;
 constexpr double topo_lista = 600;
@@ -77,9 +52,8 @@ constexpr double altura_botao = 420;
 
 } // namespace
 
-frmrelatorio::frmrelatorio(QWidget* parent) : QWidget(parent, Qt::Window) {
-    setObjectName(QStringLiteral("frmrelatorio"));
-    setWindowTitle(QStringLiteral("Relatório"));
+frmrelatorio::frmrelatorio(QWidget* parent)
+    : report_window("frmrelatorio", QStringLiteral("Relatório"), parent) {
 
     SpitFireXpSB1 = new QLabel(QStringLiteral("  Relatório"), this);
     SpitFireXpSB1->setObjectName(QStringLiteral("SpitFireXpSB1"));
@@ -94,49 +68,28 @@ frmrelatorio::frmrelatorio(QWidget* parent) : QWidget(parent, Qt::Window) {
     lblsubtitulo = new QLabel(this);
     lblsubtitulo->setObjectName(QStringLiteral("lblsubtitulo"));
 
-    lstpagar = nova_lista(this, "lstpagar", colunas_pagar("Fornecedor", "Venc."));
-    lstreceber = nova_lista(this, "lstreceber", colunas_pagar("Cliente", "Vencimento"));
-    lstmovimento = nova_lista(this, "lstmovimento",
-                              {{texto("Data"), 1320, dat},
-                               {texto("Tipo de movimento"), 2940, txt},
-                               {texto("Origem"), 2140, txt},
-                               {texto("Destino"), 2140, txt},
-                               {texto("Valor"), 1340, num},
-                               {texto("Estatus"), 1340, txt}});
-    lstclientes = nova_lista(this, "lstclientes", colunas_contato("Nome do cliente", "Tipo de cliente"));
+    lstpagar = nova_lista("lstpagar", colunas_pagar("Fornecedor", "Venc."));
+    lstreceber = nova_lista("lstreceber", colunas_pagar("Cliente", "Vencimento"));
+    lstmovimento = nova_lista("lstmovimento", {{texto("Data"), 1320, dat},
+                                               {texto("Tipo de movimento"), 2940, txt},
+                                               {texto("Origem"), 2140, txt},
+                                               {texto("Destino"), 2140, txt},
+                                               {texto("Valor"), 1340, num},
+                                               {texto("Estatus"), 1340, txt}});
+    lstclientes = nova_lista("lstclientes", colunas_contato("Nome do cliente", "Tipo de cliente"));
     lstfornecedores =
-        nova_lista(this, "lstfornecedores", colunas_contato("Nome do fornecedor", "Tipo de fornecedor"));
+        nova_lista("lstfornecedores", colunas_contato("Nome do fornecedor", "Tipo de fornecedor"));
     lstpagar->show();
 
-    barraprogresso = new QProgressBar(this);
-    barraprogresso->setObjectName(QStringLiteral("barraprogresso"));
-    barraprogresso->setRange(0, 100);
-    barraprogresso->hide();
     lblgeral = new QLabel(this);
     lblgeral->setObjectName(QStringLiteral("lblgeral"));
     lblgeral->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-
-    cmdimprimir = new QPushButton(QStringLiteral("Imprimir Relatório"), this);
-    cmdimprimir->setObjectName(QStringLiteral("cmdimprimir"));
-    cmdtxt = new QPushButton(QStringLiteral("Salvar em TXT"), this);
-    cmdtxt->setObjectName(QStringLiteral("cmdtxt"));
-    cmdhtml = new QPushButton(QStringLiteral("Salvar em HTML"), this);
-    cmdhtml->setObjectName(QStringLiteral("cmdhtml"));
-    connect(cmdimprimir, &QPushButton::clicked, this, &frmrelatorio::imprimir);
-    connect(cmdtxt, &QPushButton::clicked, this, &frmrelatorio::salvartxt);
-    connect(cmdhtml, &QPushButton::clicked, this, &frmrelatorio::salvarhtml);
-
-    barra_ = std::make_unique<output::barra_progresso>(barraprogresso);
-    relatorio_.set_Progresbar(barra_.get());
-    output::set_relatorio(&relatorio_);
 
     resize(px(12500), px(8200));
     dispor();
 }
 
-frmrelatorio::~frmrelatorio() {
-    if (output::relatorio() == &relatorio_) output::set_relatorio(nullptr);
-}
+frmrelatorio::~frmrelatorio() = default;
 
 int frmrelatorio::px(double twips) const {
     return list_view::twips_to_pixels(twips, this);
@@ -158,27 +111,16 @@ list_view* frmrelatorio::lista_de(lista l) const {
     return lstpagar;
 }
 
-list_view* frmrelatorio::lista_visivel() const {
-    for (list_view* l : {lstpagar, lstreceber, lstmovimento, lstclientes, lstfornecedores})
-        if (!l->isHidden()) return l;
-    return nullptr;
-}
-
 void frmrelatorio::mostrar_lista(lista l) {
-    list_view* alvo = lista_de(l);
-    for (list_view* v : {lstpagar, lstreceber, lstmovimento, lstclientes, lstfornecedores})
-        v->setVisible(v == alvo);
+    mostrar(lista_de(l));
 }
 
 void frmrelatorio::preencher(lista l, std::vector<QStringList>&& rows, const textos& t) {
-    list_view* alvo = lista_de(l);
-    alvo->clear_rows();
-    alvo->add_rows(std::move(rows));
+    encher(lista_de(l), std::move(rows));
     if (!t.caption.isEmpty()) setWindowTitle(t.caption);
     LBLTIPO->setText(t.tipo);
     lblsubtitulo->setText(t.subtitulo);
     lblgeral->setText(t.geral);
-    mostrar_lista(l);
 }
 
 void frmrelatorio::ajustarcolunas() {
@@ -202,14 +144,6 @@ output::report_texts frmrelatorio::report_texts() const {
     t.subtitulo = lblsubtitulo->text();
     t.totais = lblgeral->text();
     return t;
-}
-
-void frmrelatorio::salvartxt() {
-    output::salvar_relatorio(output::formato_relatorio::txt, report_texts(), lista_visivel(), relatorio_);
-}
-
-void frmrelatorio::salvarhtml() {
-    output::salvar_relatorio(output::formato_relatorio::html, report_texts(), lista_visivel(), relatorio_);
 }
 
 void frmrelatorio::imprimir() {
@@ -241,7 +175,7 @@ void frmrelatorio::dispor() {
     SpitFireXpSB1->setGeometry(0, 0, width(), px(300));
     LBLTIPO->setGeometry(px(margem), px(320), px(lw / 2), px(260));
     lblsubtitulo->setGeometry(px(margem + lw / 2), px(320), px(lw / 2), px(260));
-    for (list_view* l : {lstpagar, lstreceber, lstmovimento, lstclientes, lstfornecedores})
+    for (list_view* l : listas())
         l->setGeometry(px(margem), px(topo_lista), px(lw), px(lh));
     const double barra_topo = lh + abaixo_da_lista;
     barraprogresso->setGeometry(px(margem), px(barra_topo), px(lw), px(240));
