@@ -7,7 +7,7 @@
 #include "platform/settings.h"
 #include "platform/sql/recordset.h"
 #include "platform/widgets/list_view.h"
-#include "shell/frmprincipal.h"
+#include "shell/ui/frmprincipal.h"
 #include "store/conexao.h"
 #include "store/data_file.h"
 #include "store/program_dir.h"

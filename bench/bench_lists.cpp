@@ -5,7 +5,7 @@
 #include "platform/prompts.h"
 #include "platform/settings.h"
 #include "platform/widgets/list_view.h"
-#include "shell/frmprincipal.h"
+#include "shell/ui/frmprincipal.h"
 #include "store/conexao.h"
 #include "store/data_file.h"
 #include "store/program_dir.h"
@@ -23,7 +23,8 @@ long rss_kib(const char* field) {
     QFile f(QStringLiteral("/proc/self/status"));
     if (!f.open(QIODevice::ReadOnly)) return 0;
     for (const QByteArray& line : f.readAll().split('\n'))
-        if (line.startsWith(field)) return line.mid(int(qstrlen(field))).trimmed().split(' ').first().toLong();
+        if (line.startsWith(field))
+            return line.mid(int(qstrlen(field))).trimmed().split(' ').first().toLong();
     return 0;
 }
 
@@ -36,7 +37,8 @@ void BM_bare_scan(benchmark::State& state) {
         const int n = sqlite3_column_count(st);
         long rows = 0;
         while (sqlite3_step(st) == SQLITE_ROW) {
-            for (int c = 0; c < n; ++c) benchmark::DoNotOptimize(sqlite3_column_text(st, c));
+            for (int c = 0; c < n; ++c)
+                benchmark::DoNotOptimize(sqlite3_column_text(st, c));
             ++rows;
         }
         sqlite3_finalize(st);
@@ -80,8 +82,9 @@ int main(int argc, char** argv) {
     p->lstpagar->viewport()->repaint();
     QCoreApplication::processEvents();
     const long after = rss_kib("VmRSS:");
-    std::printf("memory: %ld KiB before the load, %ld KiB after (list holds %d rows): +%.1f MiB; peak %ld KiB\n",
-                before, after, p->lstpagar->row_count(), (after - before) / 1024.0, rss_kib("VmHWM:"));
+    std::printf(
+        "memory: %ld KiB before the load, %ld KiB after (list holds %d rows): +%.1f MiB; peak %ld KiB\n",
+        before, after, p->lstpagar->row_count(), (after - before) / 1024.0, rss_kib("VmHWM:"));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -2,10 +2,10 @@
 // list report into a PDF file.
 
 #include "output/c_relatorios.h"
-#include "output/list_report.h"
+#include "output/print/list_report.h"
 #include "output/report_frame.h"
 #include "platform/clock.h"
-#include "platform/printer.h"
+#include "platform/print/printer.h"
 #include "platform/settings.h"
 
 #include <QBuffer>

@@ -1,7 +1,7 @@
 #include "generator/data_generator.h"
 
+#include "platform/text/vb_text.h"
 #include "store/names.h"
-#include "store/vb_text.h"
 
 #include <QByteArray>
 #include <QSet>

@@ -1,7 +1,7 @@
 // Quintara starts at its login window; the login decides when the main window appears.
-#include "platform/printer_qt.h"
-#include "platform/prompts_qt.h"
-#include "shell/frmlogin.h"
+#include "app/actions.h"
+#include "platform/widgets/desktop_seams.h"
+#include "shell/ui/frmlogin.h"
 
 #include <QApplication>
 
@@ -9,10 +9,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quintara"));
     QApplication::setOrganizationName(QStringLiteral("Quintara"));
-    platform::qt_prompts prompts;
-    platform::set_prompts(&prompts);
-    platform::dialog_print_target printing;
-    platform::set_print_destination(&printing);
+    platform::install_desktop_seams();
+    app::register_actions();
     frmlogin::instance()->abrir();
     return QApplication::exec();
 }

@@ -1,12 +1,11 @@
 #include "banks/account_record.h"
 
-#include "entries/entry_record.h"
 #include "platform/sql/jet_dialect.h"
-#include "store/vb_text.h"
+#include "platform/text/vb_text.h"
 
 namespace banks {
 
-using entries::trim_blanks;
+using vb::trim_blanks;
 
 QString account_fields_message(const QString& valor, const QString& nome) {
     if (trim_blanks(valor).isEmpty()) return QStringLiteral("O campo valor deve ser preenchido!");

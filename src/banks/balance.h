@@ -4,7 +4,7 @@
 // of the accounts list and the summary text written from them.
 
 #include "platform/sql/connection.h"
-#include "store/vb_text.h"
+#include "platform/text/vb_text.h"
 
 #include <QString>
 #include <QStringList>

@@ -2,9 +2,9 @@
 
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
+#include "platform/text/vb_text.h"
 #include "store/conexao.h"
 #include "store/names.h"
-#include "store/vb_text.h"
 
 #include <exception>
 
@@ -65,15 +65,6 @@ const movement_twin& twin_adicionar() {
 const movement_twin& twin_editar() {
     static const movement_twin t = make_editar();
     return t;
-}
-
-QString trim_blanks(const QString& text) {
-    qsizetype a = 0, b = text.size();
-    while (a < b && text.at(a) == QLatin1Char(' '))
-        ++a;
-    while (b > a && text.at(b - 1) == QLatin1Char(' '))
-        --b;
-    return text.mid(a, b - a);
 }
 
 QString blank_field_message(const movement_twin& twin, const QString& valor, const QString& data) {

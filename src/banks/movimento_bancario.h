@@ -3,6 +3,8 @@
 // field; the checks before writing and the texts of their messages. The adding and the editing
 // window are twins; what tells them apart is the data of movement_twin, not code.
 
+#include "platform/text/vb_text.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -50,8 +52,7 @@ struct movement_fields {
     QString estatus;
 };
 
-// Trim as the old runtime did it: blanks only, not tabs or line breaks.
-QString trim_blanks(const QString& text);
+using vb::trim_blanks;
 
 // The message for the first blank required field (the amount, then the date), or "".
 QString blank_field_message(const movement_twin& twin, const QString& valor, const QString& data);

@@ -1,8 +1,8 @@
 #include "entries/entry_record.h"
 
 #include "platform/sql/jet_dialect.h"
+#include "platform/text/vb_text.h"
 #include "store/conexao.h"
-#include "store/vb_text.h"
 
 namespace entries {
 
@@ -12,15 +12,6 @@ const QString dmy_format = QStringLiteral("dd/mm/yyyy");
 const QString ymd_format = QStringLiteral("yyyy/mm/dd");
 
 } // namespace
-
-QString trim_blanks(const QString& text) {
-    qsizetype b = 0, e = text.size();
-    while (b < e && text[b] == QLatin1Char(' '))
-        ++b;
-    while (e > b && text[e - 1] == QLatin1Char(' '))
-        --e;
-    return text.mid(b, e - b);
-}
 
 QString blank_fields_message(const entry_fields& f) {
     const struct {

@@ -4,6 +4,7 @@
 // fill the boxes, and how the windows are dressed for each kind.
 
 #include "platform/sql/recordset.h"
+#include "platform/text/vb_text.h"
 
 #include <QString>
 #include <QStringList>
@@ -27,8 +28,7 @@ struct entry_fields {
     QString moeda;
 };
 
-// Trim as the old runtime trimmed: blanks only, other white space stays.
-QString trim_blanks(const QString& text);
+using vb::trim_blanks;
 
 // "Os seguintes dados estão em branco: " with one line per required field left blank (a field of
 // blanks is blank), in the fixed order; empty when all five are filled.

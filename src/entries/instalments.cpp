@@ -1,8 +1,8 @@
 #include "entries/instalments.h"
 
+#include "platform/text/vb_text.h"
 #include "store/conexao.h"
 #include "store/names.h"
-#include "store/vb_text.h"
 
 #include <cmath>
 #include <optional>

@@ -1,14 +1,13 @@
 #include "output/report_frame.h"
 
+#include "platform/busy.h"
 #include "platform/clock.h"
 #include "platform/prompts.h"
 #include "platform/shell.h"
+#include "platform/text/vb_text.h"
 #include "store/config.h"
-#include "store/vb_text.h"
 
-#include <QCursor>
 #include <QFile>
-#include <QGuiApplication>
 
 namespace output {
 
@@ -22,22 +21,6 @@ void line(QIODevice& out, const QString& s) {
     if (!out.isWritable()) return;
     out.write(s.toUtf8() + QByteArrayLiteral("\r\n"));
 }
-
-// The hourglass while the table is written, when there is a screen to show it on.
-class busy_cursor {
-public:
-    busy_cursor() : on_(qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
-        if (on_) QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
-    }
-    ~busy_cursor() {
-        if (on_) QGuiApplication::restoreOverrideCursor();
-    }
-    busy_cursor(const busy_cursor&) = delete;
-    busy_cursor& operator=(const busy_cursor&) = delete;
-
-private:
-    bool on_;
-};
 
 QString heading(const report_texts& t) {
     if (t.janela == janela_relatorio::movimento) return t.caption.toUpper();
@@ -80,7 +63,7 @@ void write_text_report(QIODevice& out, const report_texts& t, const platform::ta
     line(out, linha_produto);
     line(out, QString());
     if (lista) {
-        busy_cursor hourglass;
+        platform::busy_span hourglass;
         exportador.Exportar_listaparaTXT(out, QString(), *lista, true);
     }
     line(out, QString());
@@ -113,7 +96,7 @@ void write_html_report(QIODevice& out, const report_texts& t, const platform::ta
     line(out, linha_produto + QStringLiteral("<br><br>"));
     line(out, QStringLiteral("</center></font></p>"));
     if (lista) {
-        busy_cursor hourglass;
+        platform::busy_span hourglass;
         exportador.Exportar_listaparaHTML(out, *lista);
     }
     line(out, QStringLiteral("<p><font face='Arial'><center>"));

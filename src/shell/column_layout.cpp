@@ -1,8 +1,8 @@
 #include "shell/column_layout.h"
 
 #include "platform/settings.h"
+#include "platform/text/vb_text.h"
 #include "store/program_dir.h"
-#include "store/vb_text.h"
 
 #include <cfloat>
 #include <cmath>

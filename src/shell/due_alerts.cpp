@@ -1,9 +1,9 @@
 #include "shell/due_alerts.h"
 
 #include "platform/sql/jet_dialect.h"
+#include "platform/text/vb_text.h"
 #include "shell/ledger_load.h"
 #include "store/conexao.h"
-#include "store/vb_text.h"
 
 #include <exception>
 

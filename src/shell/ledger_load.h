@@ -3,8 +3,8 @@
 // the totals and the text of the label under the list. The window appends the rows in bulk.
 
 #include "platform/sql/recordset.h"
+#include "platform/text/vb_text.h"
 #include "shell/ledger_statement.h"
-#include "store/vb_text.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "shell/ledger_statement.h"
 
 #include "platform/sql/jet_dialect.h"
-#include "store/vb_text.h"
+#include "platform/text/vb_text.h"
 
 namespace shell {
 
@@ -25,15 +25,7 @@ const entry_words& words_of(ledger which) {
     return which == ledger::receber ? receber : pagar;
 }
 
-// Trim of the old runtime: blanks only.
-QString trim_blanks(const QString& s) {
-    qsizetype b = 0, e = s.size();
-    while (b < e && s[b] == QLatin1Char(' '))
-        ++b;
-    while (e > b && s[e - 1] == QLatin1Char(' '))
-        --e;
-    return s.mid(b, e - b);
-}
+using vb::trim_blanks;
 
 QString ymd(const QDate& d) {
     return vb::ymd(d);

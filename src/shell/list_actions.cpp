@@ -2,9 +2,9 @@
 
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
+#include "platform/text/vb_text.h"
 #include "store/conexao.h"
 #include "store/names.h"
-#include "store/vb_text.h"
 
 #include <exception>
 

@@ -2,15 +2,15 @@
 // The main window opened as at start (no login, no tip, no alerts), the entry and account
 // windows reached through it, and rows put straight into the data file.
 
-#include "banks/frmbanco.h"
-#include "banks/frmeditarbanco.h"
-#include "entries/frmadicionar.h"
-#include "entries/frmeditar.h"
+#include "banks/ui/frmbanco.h"
+#include "banks/ui/frmeditarbanco.h"
+#include "entries/ui/frmadicionar.h"
+#include "entries/ui/frmeditar.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/list_view.h"
 #include "platform/widgets/money_field.h"
-#include "shell/frmlogin.h"
-#include "shell/frmprincipal.h"
+#include "shell/ui/frmlogin.h"
+#include "shell/ui/frmprincipal.h"
 #include "store/config.h"
 #include "support/fixture.h"
 

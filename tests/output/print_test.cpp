@@ -1,8 +1,8 @@
 // Printed reports read back from PDF files: the list report engine and the direct printing.
 
-#include "output/list_report.h"
-#include "output/modimpressao.h"
-#include "platform/printer.h"
+#include "output/print/list_report.h"
+#include "output/print/modimpressao.h"
+#include "platform/print/printer.h"
 #include "store/config.h"
 #include "support/fixture.h"
 #include "test_table.h"

@@ -1,9 +1,9 @@
 // The two report windows: their controls, filling, saving and printing through the buttons, and
 // the layout rule of frmrelatorio.
 
-#include "output/frmmovimento.h"
-#include "output/frmrelatorio.h"
-#include "platform/printer.h"
+#include "output/ui/frmmovimento.h"
+#include "output/ui/frmrelatorio.h"
+#include "platform/print/printer.h"
 #include "platform/widgets/list_view.h"
 #include "store/config.h"
 #include "support/fixture.h"

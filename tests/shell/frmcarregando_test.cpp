@@ -1,4 +1,4 @@
-#include "shell/frmcarregando.h"
+#include "platform/widgets/frmcarregando.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,5 +1,6 @@
 #include "support/fixture.h"
 
+#include "app/actions.h"
 #include "platform/settings.h"
 #include "store/conexao.h"
 #include "store/data_file.h"
@@ -34,6 +35,8 @@ void fixture::SetUp() {
     platform::set_clock(&clock_);
     platform::set_prompts(&prompts_);
     platform::set_shell(&shell_);
+    static const bool registered = (app::register_actions(), true);
+    (void)registered;
 }
 
 void fixture::TearDown() {

@@ -1,8 +1,8 @@
 #include "platform/widgets/date_field.h"
 
 #include "platform/clock.h"
+#include "platform/text/vb_text.h"
 #include "platform/widgets/field_helpers.h"
-#include "store/vb_text.h"
 
 #include <QCalendarWidget>
 #include <QFocusEvent>

@@ -1,6 +1,6 @@
 #include "platform/widgets/list_view.h"
 
-#include "store/vb_text.h"
+#include "platform/text/vb_text.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>

@@ -1,7 +1,7 @@
 #include "platform/widgets/money_field.h"
 
+#include "platform/text/vb_text.h"
 #include "platform/widgets/field_helpers.h"
-#include "store/vb_text.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>

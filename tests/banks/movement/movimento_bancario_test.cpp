@@ -1,8 +1,7 @@
 #include "banks/movimento_bancario.h"
-#include "store/vb_text.h"
+#include "platform/text/vb_text.h"
 
 #include <gtest/gtest.h>
-
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "entries/frmmultiplos.h"
+#include "entries/ui/frmmultiplos.h"
 #include "entries/window_fixture.h"
 #include "platform/widgets/field_helpers.h"
-#include "shell/frmcarregando.h"
+#include "platform/widgets/frmcarregando.h"
 
 #include <QProgressBar>
 #include <QRadioButton>

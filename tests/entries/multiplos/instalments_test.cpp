@@ -1,5 +1,5 @@
 #include "entries/instalments.h"
-#include "store/vb_text.h"
+#include "platform/text/vb_text.h"
 #include "support/fixture.h"
 
 #include <vector>

@@ -1,6 +1,6 @@
 #include "platform/widgets/list_view.h"
-#include "shell/frmalerta.h"
-#include "shell/frmdica.h"
+#include "shell/ui/frmalerta.h"
+#include "shell/ui/frmdica.h"
 #include "store/config.h"
 #include "store/program_dir.h"
 #include "support/fixture.h"

@@ -1,8 +1,8 @@
 #include "platform/autostart.h"
 #include "platform/widgets/list_view.h"
-#include "shell/frmlogin.h"
-#include "shell/frmprincipal.h"
 #include "shell/main_menu.h"
+#include "shell/ui/frmlogin.h"
+#include "shell/ui/frmprincipal.h"
 #include "store/config.h"
 #include "support/fixture.h"
 

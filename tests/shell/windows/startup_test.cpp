@@ -1,7 +1,7 @@
 #include "platform/autostart.h"
 #include "platform/widgets/list_view.h"
-#include "shell/frmlogin.h"
-#include "shell/frmprincipal.h"
+#include "shell/ui/frmlogin.h"
+#include "shell/ui/frmprincipal.h"
 #include "store/config.h"
 #include "support/fixture.h"
 

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace banks {
+
+// The bank windows that other subsystems open by name.
+void register_actions();
+
+} // namespace banks

@@ -1,0 +1,22 @@
+#pragma once
+// Adding a bank or cash account. Opened by the main window and by the quick-add buttons of the
+// entry windows, which it refills with the new name.
+
+#include "banks/ui/frmaccount_form.h"
+
+#include <QPointer>
+
+class frmbanco : public account_form {
+    Q_OBJECT
+public:
+    // The one window, created at its first reference after an unload.
+    static frmbanco* instance();
+    static frmbanco* aberto();
+
+protected:
+    void gravar() override;
+    void depois_de_gravar() override;
+
+private:
+    frmbanco();
+};

@@ -1,0 +1,25 @@
+#pragma once
+// "Editar Movimento bancário": the movement of codigoselecionado, rewritten in place.
+
+#include "banks/ui/frmmovimento_window.h"
+
+class frmeditarbancario : public movimento_window {
+    Q_OBJECT
+public:
+    // The window while it is loaded; a new one after it was unloaded.
+    static frmeditarbancario* instance();
+    // The loaded window, or nullptr.
+    static frmeditarbancario* loaded();
+
+    // The stored movement into the fields; the target box is shown for a transfer.
+    void preencher(const banks::shown_movement& m);
+
+    QPushButton* cmdeditar = nullptr;
+
+protected:
+    // The main window's codigoselecionado at the moment of writing.
+    double chave() const override;
+
+private:
+    frmeditarbancario();
+};

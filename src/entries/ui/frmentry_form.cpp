@@ -1,0 +1,148 @@
+#include "entries/ui/frmentry_form.h"
+
+#include "platform/clock.h"
+#include "platform/prompts.h"
+#include "platform/widgets/date_field.h"
+#include "platform/widgets/field_helpers.h"
+#include "platform/widgets/form_builders.h"
+#include "platform/widgets/money_field.h"
+#include "shell/principal_api.h"
+#include "store/conexao.h"
+#include "store/config.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyle>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <exception>
+
+namespace {
+
+QPushButton* button(const char* name, const QString& caption) {
+    return named(new QPushButton(caption), name);
+}
+
+} // namespace
+
+entry_form::entry_form(const QString& name, entries::list_source bank_list, QString expense_caption)
+    : entry_fields_form(name, std::move(bank_list), QStringLiteral("Estatus da operação")),
+      expense_caption_(std::move(expense_caption)) {
+    txtvencimento = named(new date_field, "txtvencimento");
+    cmdbancoinc = button("cmdbancoinc", QStringLiteral("Cadastrar novo"));
+    cmddescinc = button("cmddescinc", QStringLiteral("Cadastrar novo"));
+    cmdforncliinc = button("cmdforncliinc", QStringLiteral("Cadastrar novo"));
+    // the windows of centres, clients and suppliers are not part of this program yet
+    cmddescinc->setEnabled(false);
+    cmdforncliinc->setEnabled(false);
+
+    connect(cmdinserir, &QPushButton::clicked, this, &entry_form::cmdinserir_click);
+    connect(cmdcancelar, &QPushButton::clicked, this, &entry_form::cmdcancelar_click);
+    connect(cmdbancoinc, &QPushButton::clicked, this, &entry_form::cmdbancoinc_click);
+    cmdbancoinc->setEnabled(shell::find_action(QStringLiteral("frmbanco")) != nullptr);
+    // an account added by the quick add: the box refilled and showing it
+    connect(&shell::avisos::instance(), &shell::avisos::cadastrado, this,
+            [this](shell::cadastro que, const QString& nome) {
+                if (que != shell::cadastro::banco || descarregado_) return;
+                if (isVisible()) {
+                    carregarbanco();
+                    cboorigem->setEditText(nome);
+                }
+                // the edit window goes back on top; the adding one, which stepped back for the quick add,
+                // does not
+                if (objectName() == QLatin1String("frmeditar")) sempretopo(QStringLiteral("ativo"), this);
+            });
+    ligar_datas(txtvencimento);
+    abrir_no_topo();
+}
+
+entry_form::~entry_form() = default;
+
+void entry_form::montar(QWidget* extra) {
+    auto* grid = new QGridLayout;
+    const int row = linhas_comuns(grid, cmdbancoinc, cmddescinc, cmdforncliinc);
+    linha(grid, row, QStringLiteral("Vencimento:"), txtvencimento);
+    linha(grid, row + 1, QStringLiteral("Informações:"), txtinfo);
+    linha(grid, row + 2, QStringLiteral("Estatus:"), cboestatus);
+
+    montar_tela(grid, {extra},
+                {cboorigem, txtdocumento, txtdata, txtdescricao, cbotipo, cbomoeda, txtvalor, txtvencimento,
+                 txtinfo, cboestatus, cmdinserir, cmdcancelar, cmdbancoinc, cmddescinc, cmdforncliinc});
+    atalhos_ = new atalhos(this);
+    atalhos_->add(QLatin1Char('C'), [this] { cmdcancelar_click(); });
+    atalhos_->add(QLatin1Char('I'), [this] { cmdinserir_click(); });
+}
+
+void entry_form::atalho_extra(QChar letra) {
+    if (atalhos_) atalhos_->add(letra, [this] { cmdinserir_click(); });
+}
+
+entries::entry_fields entry_form::campos() const {
+    return campos_com(txtvencimento->text());
+}
+
+void entry_form::cmdinserir_click() {
+    const QString em_branco = entries::blank_fields_message(campos());
+    if (!em_branco.isEmpty()) {
+        erro(em_branco);
+        return;
+    }
+    const QString falha = QStringLiteral("Ocorreu o seguinte erro ao tentar cadastrar os dados: ");
+    try {
+        if (cboorigem->currentText().isEmpty()) cboorigem->setEditText(store::palavra::sem_origem);
+        store::conectarbanco();
+        const entries::kind k = entries::kind_of_caption(cmdinserir->text(), expense_caption_);
+        gravar(k, campos());
+        depois_de_gravar(k);
+    } catch (const sql::error& e) {
+        erro(falha + e.description());
+    } catch (const std::exception& e) {
+        erro(falha + QString::fromUtf8(e.what()));
+    }
+}
+
+void entry_form::cmdcancelar_click() {
+    descarregar();
+}
+
+void entry_form::cmdbancoinc_click() {
+    sempretopo(QStringLiteral("desativo"), this);
+    shell::run_action(QStringLiteral("frmbanco"));
+}
+
+void entry_form::descarregar() {
+    hide();
+    if (!descarregado_) {
+        descarregado_ = true;
+        try {
+            ao_descarregar();
+        } catch (const std::exception&) {
+            // errors ignored: the window goes all the same
+        }
+    }
+    deleteLater();
+}
+
+void entry_form::closeEvent(QCloseEvent* e) {
+    if (!descarregado_) {
+        descarregado_ = true;
+        try {
+            ao_descarregar();
+        } catch (const std::exception&) {
+        }
+    }
+    e->accept();
+}
+
+void entry_form::recarregar_principal(entries::kind k, bool com_filtros) {
+    shell::recarregar_principal(k == entries::kind::despesa ? shell::ledger::pagar : shell::ledger::receber,
+                                com_filtros);
+}

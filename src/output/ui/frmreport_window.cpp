@@ -1,0 +1,83 @@
+#include "output/ui/frmreport_window.h"
+
+#include "platform/widgets/list_view.h"
+
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace output {
+
+void montar_colunas(list_view& l, const std::vector<coluna_lista>& colunas) {
+    for (const coluna_lista& c : colunas)
+        l.add_column(c.texto, c.largura, c.tag);
+}
+
+void barra_progresso::set_value(double percent) {
+    b_->setValue(int(percent));
+}
+
+void barra_progresso::set_visible(bool v) {
+    b_->setVisible(v);
+}
+
+} // namespace output
+
+report_window::report_window(const char* name, const QString& caption, QWidget* parent)
+    : QWidget(parent, Qt::Window) {
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(caption);
+    barraprogresso = new QProgressBar(this);
+    barraprogresso->setObjectName(QStringLiteral("barraprogresso"));
+    barraprogresso->setRange(0, 100);
+    barraprogresso->hide();
+    cmdimprimir = new QPushButton(QStringLiteral("Imprimir Relatório"), this);
+    cmdimprimir->setObjectName(QStringLiteral("cmdimprimir"));
+    cmdtxt = new QPushButton(QStringLiteral("Salvar em TXT"), this);
+    cmdtxt->setObjectName(QStringLiteral("cmdtxt"));
+    cmdhtml = new QPushButton(QStringLiteral("Salvar em HTML"), this);
+    cmdhtml->setObjectName(QStringLiteral("cmdhtml"));
+    connect(cmdimprimir, &QPushButton::clicked, this, [this] { imprimir(); });
+    connect(cmdtxt, &QPushButton::clicked, this, &report_window::salvartxt);
+    connect(cmdhtml, &QPushButton::clicked, this, &report_window::salvarhtml);
+    barra_ = std::make_unique<output::barra_progresso>(barraprogresso);
+    relatorio_.set_Progresbar(barra_.get());
+    output::set_relatorio(&relatorio_);
+}
+
+report_window::~report_window() {
+    if (output::relatorio() == &relatorio_) output::set_relatorio(nullptr);
+}
+
+list_view* report_window::nova_lista(const char* name, const std::vector<output::coluna_lista>& colunas) {
+    auto* l = new list_view(this);
+    l->setObjectName(QString::fromLatin1(name));
+    output::montar_colunas(*l, colunas);
+    l->hide();
+    listas_.push_back(l);
+    return l;
+}
+
+list_view* report_window::lista_visivel() const {
+    for (list_view* l : listas_)
+        if (!l->isHidden()) return l;
+    return nullptr;
+}
+
+void report_window::mostrar(list_view* alvo) {
+    for (list_view* v : listas_)
+        v->setVisible(v == alvo);
+}
+
+void report_window::encher(list_view* alvo, std::vector<QStringList>&& rows) {
+    alvo->clear_rows();
+    alvo->add_rows(std::move(rows));
+    mostrar(alvo);
+}
+
+void report_window::salvartxt() {
+    output::salvar_relatorio(output::formato_relatorio::txt, report_texts(), lista_visivel(), relatorio_);
+}
+
+void report_window::salvarhtml() {
+    output::salvar_relatorio(output::formato_relatorio::html, report_texts(), lista_visivel(), relatorio_);
+}

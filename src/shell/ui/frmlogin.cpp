@@ -1,0 +1,182 @@
+#include "shell/ui/frmlogin.h"
+
+#include "platform/prompts.h"
+#include "platform/widgets/field_helpers.h"
+#include "shell/login.h"
+#include "shell/ui/frmprincipal.h"
+#include "store/conexao.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+frmlogin* the_login = nullptr;
+
+// Unloading the login window unloads every window and so ends the program.
+void descarregar_tudo() {
+    QApplication::closeAllWindows();
+    QCoreApplication::quit();
+}
+} // namespace
+
+frmlogin* frmlogin::instance() {
+    if (!the_login) the_login = new frmlogin();
+    return the_login;
+}
+
+void frmlogin::descarregar() {
+    if (!the_login) return;
+    frmlogin* w = the_login;
+    the_login = nullptr;
+    w->saindo_ = true;
+    w->hide();
+    w->deleteLater();
+}
+
+frmlogin::frmlogin() {
+    setObjectName(QStringLiteral("frmlogin"));
+    setProperty("quintara_form", true);
+    setWindowTitle(QStringLiteral("Login do usuário"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+    auto* v = new QVBoxLayout(this);
+    auto* titulo = new QLabel(QStringLiteral("Sistema de Autenticação"));
+    QFont f = titulo->font();
+    f.setPointSizeF(f.pointSizeF() * 1.5);
+    f.setBold(true);
+    titulo->setFont(f);
+    auto* nota = new QLabel(QStringLiteral("O login protege os seus dados financeiros: só quem tem um "
+                                           "usuário e uma senha cadastrados pode abrir o "
+                                           "software e ver as suas contas."));
+    nota->setWordWrap(true);
+    auto* g = new QGridLayout;
+    txtusuario = new QLineEdit;
+    txtusuario->setObjectName(QStringLiteral("txtusuario"));
+    txtsenha = new QLineEdit;
+    txtsenha->setObjectName(QStringLiteral("txtsenha"));
+    txtsenha->setEchoMode(QLineEdit::Password);
+    g->addWidget(new QLabel(QStringLiteral("Usuário")), 0, 0);
+    g->addWidget(txtusuario, 0, 1);
+    g->addWidget(new QLabel(QStringLiteral("Senha:")), 1, 0);
+    g->addWidget(txtsenha, 1, 1);
+    auto* botoes = new QHBoxLayout;
+    cmdentrar = new QPushButton(QStringLiteral("Entrar"));
+    cmdentrar->setObjectName(QStringLiteral("cmdentrar"));
+    cmdcancelar = new QPushButton(QStringLiteral("Cancelar"));
+    cmdcancelar->setObjectName(QStringLiteral("cmdcancelar"));
+    botoes->addStretch();
+    botoes->addWidget(cmdentrar);
+    botoes->addWidget(cmdcancelar);
+    v->addWidget(titulo);
+    v->addWidget(nota);
+    v->addLayout(g);
+    v->addLayout(botoes);
+    setFixedWidth(420);
+    install_field_conduct_all(this);
+    connect(cmdentrar, &QPushButton::clicked, this, &frmlogin::cmdentrar_click);
+    connect(cmdcancelar, &QPushButton::clicked, this, &frmlogin::cmdcancelar_click);
+}
+
+frmlogin::~frmlogin() {
+    if (the_login == this) the_login = nullptr;
+}
+
+void frmlogin::abrir() {
+    txtusuario->setFocus();
+    store::conectarbanco();
+    sempretopo(QStringLiteral("ativo"), this);
+    QString exigir;
+    bool lido = false;
+    try {
+        sql::recordset rs;
+        rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset, sql::read_only);
+        rs.move_last();
+        rs.move_first();
+        exigir = rs.text(QStringLiteral("exigirlogin"));
+        lido = true;
+    } catch (const sql::error&) {
+        // an unreadable data file has been reported by the connection; the main window opens with empty lists
+    }
+    if (!lido || exigir == QLatin1String("0")) {
+        hide();
+        frmprincipal* p = frmprincipal::instance();
+        p->mostrar();
+        p->CarregarDados();
+        return;
+    }
+    adjustSize();
+    if (QScreen* s = QGuiApplication::primaryScreen())
+        move(s->availableGeometry().center() - QPoint(width() / 2, height() / 2));
+    show();
+    txtusuario->setFocus();
+}
+
+void frmlogin::entrar_no_principal() {
+    frmprincipal::instance()->mostrar();
+    hide();
+}
+
+void frmlogin::cmdentrar_click() {
+    sempretopo(QStringLiteral("desativo"), this);
+    try {
+        sql::recordset rs;
+        rs.open(QStringLiteral("SELECT * FROM login"), store::conexao, sql::keyset, sql::read_only);
+        if (rs.eof()) {
+            platform::msgbox(
+                QStringLiteral("Não há nenhum usuário cadastrado, o software será iniciado para adicionar "
+                               "um usuário clique no menu principal, gerenciador de login e depois em "
+                               "configurar usuários."),
+                platform::exclamation, QStringLiteral("Login"));
+            entrar_no_principal();
+            return;
+        }
+    } catch (const sql::error& e) {
+        platform::msgbox(e.description(), platform::critical, QStringLiteral("Login"));
+        sempretopo(QStringLiteral("ativo"), this);
+        return;
+    }
+    const QString nome = txtusuario->text();
+    const QString senha = txtsenha->text();
+    if (nome.isEmpty() || senha.isEmpty()) {
+        platform::msgbox(QStringLiteral("Digite o nome de usuário e ou a senha!"), platform::exclamation,
+                         QStringLiteral("Login"));
+        sempretopo(QStringLiteral("ativo"), this);
+        return;
+    }
+    const QString invalido =
+        QStringLiteral("Usuário e ou senha inválido, por favor verifique os dados digitados!");
+    if (shell::tem_caractere_proibido(nome) || shell::tem_caractere_proibido(senha)) {
+        platform::msgbox(invalido, platform::critical, QStringLiteral("Login"));
+        return;
+    }
+    bool achou = false;
+    try {
+        sql::recordset rs;
+        rs.open(shell::comando_login(nome, senha), store::conexao, sql::keyset, sql::read_only);
+        achou = !rs.eof();
+    } catch (const sql::error&) {
+    }
+    if (achou) {
+        entrar_no_principal();
+        store::fecharconexao();
+        return;
+    }
+    platform::msgbox(invalido, platform::critical, QStringLiteral("Login"));
+    sempretopo(QStringLiteral("ativo"), this);
+}
+
+void frmlogin::cmdcancelar_click() {
+    close();
+}
+
+void frmlogin::closeEvent(QCloseEvent* e) {
+    e->accept();
+    if (saindo_) return;
+    saindo_ = true;
+    descarregar_tudo();
+}

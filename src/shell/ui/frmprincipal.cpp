@@ -1,0 +1,490 @@
+#include "shell/ui/frmprincipal.h"
+#include "platform/widgets/form_builders.h"
+
+#include "platform/clock.h"
+#include "platform/prompts.h"
+#include "platform/text/vb_text.h"
+#include "platform/widgets/field_helpers.h"
+#include "platform/widgets/list_view.h"
+#include "shell/ui/frmalerta.h"
+#include "shell/ui/frmdica.h"
+#include "shell/ui/frmlogin.h"
+#include "store/conexao.h"
+#include "store/config.h"
+#include "store/program_dir.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <stdexcept>
+
+namespace {
+
+frmprincipal* the_window = nullptr;
+
+// The window's background picture, drawn once at the top left as the old form did.
+class fundo_widget : public QWidget {
+public:
+    using QWidget::QWidget;
+    void set_picture(const QPixmap& p) {
+        picture_ = p;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().window());
+        if (!picture_.isNull()) painter.drawPixmap(0, 0, picture_);
+    }
+
+private:
+    QPixmap picture_;
+};
+
+QPushButton* button(const char* name, const char* caption) {
+    return named(new QPushButton(QString::fromUtf8(caption)), name);
+}
+
+QComboBox* filter_box(const char* name, const QStringList& entries) {
+    auto* c = named(new QComboBox, name);
+    c->setEditable(true);
+    c->addItems(entries);
+    c->setInsertPolicy(QComboBox::NoInsert);
+    c->setMinimumContentsLength(20);
+    c->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    return c;
+}
+
+QWidget* labelled(const QString& caption, QWidget* field) {
+    auto* w = new QWidget;
+    auto* l = new QVBoxLayout(w);
+    l->setContentsMargins(0, 0, 0, 0);
+    l->setSpacing(1);
+    l->addWidget(new QLabel(caption));
+    l->addWidget(field);
+    return w;
+}
+
+QStringList words(std::initializer_list<const char*> list) {
+    QStringList out;
+    for (const char* s : list)
+        out << QString::fromUtf8(s);
+    return out;
+}
+
+const QStringList periodos_ledger =
+    words({"Todos os dados", "Apenas deste ano", "Apenas deste mês", "Apenas do dia", "Ultimos 7 dias",
+           "Ultimos 15 dias", "Próximos 7 dias", "Próximos 15 dias", "Mês anterior", "Próximo mês"});
+
+} // namespace
+
+frmprincipal* frmprincipal::instance() {
+    if (!the_window) the_window = new frmprincipal();
+    return the_window;
+}
+
+bool frmprincipal::exists() {
+    return the_window != nullptr;
+}
+
+frmprincipal::frmprincipal() {
+    shell::set_principal(this);
+    setObjectName(QStringLiteral("frmprincipal"));
+    setProperty("quintara_form", true);
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setWindowTitle(QStringLiteral("Quintara"));
+    resize(1180, 720);
+    auto* fundo = new fundo_widget;
+    fundo->setObjectName(QStringLiteral("fundo"));
+    setCentralWidget(fundo);
+    auto* l = new QVBoxLayout(fundo);
+    l->setContentsMargins(4, 4, 4, 4);
+    picprincipal = named(new QWidget, "picprincipal");
+    l->addWidget(picprincipal);
+    montar_tabs();
+    montar_menus();
+    montar_toolbar();
+    statusBar()->setObjectName(QStringLiteral("statusbar"));
+    statustexto = named(new QLabel, "statustexto");
+    statusBar()->addWidget(statustexto, 1);
+    ligar_filtros();
+    ligar_botoes();
+    ligar_acoes();
+    // activation: the window gets the focus back from another of the program's windows
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* w) {
+        static QPointer<QWindow> previous;
+        QWindow* before = previous;
+        previous = w;
+        if (!carregado_ || fechando_ || !w || w != windowHandle()) return;
+        QWidget* from = nullptr;
+        for (QWidget* top : QApplication::topLevelWidgets())
+            if (top->windowHandle() == before) from = top;
+        if (from && from != this && from->property("quintara_form").toBool()) ativar();
+    });
+}
+
+frmprincipal::~frmprincipal() {
+    if (the_window == this) the_window = nullptr;
+    if (shell::principal() == this) shell::set_principal(nullptr);
+}
+
+void frmprincipal::montar_tabs() {
+    auto* l = new QVBoxLayout(picprincipal);
+    l->setContentsMargins(0, 0, 0, 0);
+    xtab = named(new QTabWidget, "xtab");
+    l->addWidget(xtab);
+    xtab->addTab(montar_tab_ledger(true), QStringLiteral("Contas a pagar"));
+    xtab->addTab(montar_tab_ledger(false), QStringLiteral("Contas a receber"));
+    xtab->addTab(montar_tab_movimento(), QStringLiteral("Movimento bancário"));
+    xtab->addTab(montar_tab_bancos(), QStringLiteral("Bancos e caixa"));
+    connect(xtab, &QTabWidget::currentChanged, this, &frmprincipal::tab_mudou);
+}
+
+QWidget* frmprincipal::montar_tab_ledger(bool pagar) {
+    auto* tab = new QWidget;
+    auto* v = new QVBoxLayout(tab);
+    auto* top1 = new QWidget;
+    auto* top2 = new QWidget;
+    auto* h1 = new QHBoxLayout(top1);
+    auto* h2 = new QHBoxLayout(top2);
+    h1->setContentsMargins(0, 0, 0, 0);
+    h2->setContentsMargins(0, 0, 0, 0);
+    auto* tipo = filter_box(pagar ? "cbotipop" : "cbotipor",
+                            words({"Pendentes e Concluídos", "Pendentes", "Concluídos"}));
+    auto* filtro = filter_box(pagar ? "cbofiltrop" : "cbofiltror", periodos_ledger);
+    auto* baseado = filter_box(pagar ? "cbobaseadoP" : "cbobaseadoR", words({"Data Cadastro", "Vencimento"}));
+    auto* banco = filter_box(pagar ? "cbobancop" : "cbobancor", words({"Todos os bancos"}));
+    auto* centro = filter_box(pagar ? "cbocentrocusto" : "cbocentrolucro",
+                              words({pagar ? "Todos os centros de custos" : "Todos os centros de lucros"}));
+    auto* contato = filter_box(pagar ? "cbofornecedor" : "cbocliente",
+                               words({pagar ? "Todos os fornecedores" : "Todos os clientes"}));
+    h1->addWidget(labelled(QStringLiteral("Mostrar:"), tipo));
+    h1->addWidget(labelled(QStringLiteral("Período:"), filtro));
+    h1->addWidget(labelled(QStringLiteral("Baseado em:"), baseado));
+    h1->addStretch();
+    h2->addWidget(labelled(QStringLiteral("Banco:"), banco));
+    h2->addWidget(
+        labelled(pagar ? QStringLiteral("Centro de custo:") : QStringLiteral("Centro de lucro:"), centro));
+    h2->addWidget(labelled(pagar ? QStringLiteral("Fornecedor:") : QStringLiteral("Cliente:"), contato));
+    h2->addStretch();
+    auto* lista = named(new list_view, pagar ? "lstpagar" : "lstreceber");
+    auto* botoes = new QHBoxLayout;
+    QPushButton* b[8] = {
+        button(pagar ? "cmdadicionard" : "cmdadicionarr", "Adicionar"),
+        button(pagar ? "cmdmultiplosp" : "cmdmultiplosr", "Parcelas"),
+        button(pagar ? "cmdalterard" : "cmdalterarr", "Alterar"),
+        button(pagar ? "cmdremoverd" : "cmdremoverr", "Remover"),
+        button(pagar ? "cmdrecibod" : "cmdrecibor", "Recibo"),
+        button(pagar ? "cmdprojecaop" : "cmdprojecoesr", "Projeções"),
+        button(pagar ? "cmdhistoricoforn" : "cmdhistoricocli", "Histórico"),
+        button(pagar ? "cmdmesp" : "cmdmesr", "Por mês"),
+    };
+    for (auto* x : b)
+        botoes->addWidget(x);
+    botoes->addStretch();
+    auto* rotulo = named(new QLabel, pagar ? "lblpagarest" : "lblreceberest");
+    rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    v->addWidget(top1);
+    v->addWidget(top2);
+    v->addWidget(lista, 1);
+    v->addLayout(botoes);
+    v->addWidget(rotulo);
+    if (pagar) {
+        pictoppagar = named(top1, "pictoppagar");
+        pictoppagar2 = named(top2, "pictoppagar2");
+        cbotipop = tipo, cbofiltrop = filtro, cbobaseadoP = baseado, cbobancop = banco,
+        cbocentrocusto = centro, cbofornecedor = contato;
+        lstpagar = lista;
+        cmdadicionard = b[0], cmdmultiplosp = b[1], cmdalterard = b[2], cmdremoverd = b[3], cmdrecibod = b[4],
+        cmdprojecaop = b[5], cmdhistoricoforn = b[6], cmdmesp = b[7];
+        lblpagarest = rotulo;
+    } else {
+        pictopreceber = named(top1, "pictopreceber");
+        pictoprec2 = named(top2, "pictoprec2");
+        cbotipor = tipo, cbofiltror = filtro, cbobaseadoR = baseado, cbobancor = banco,
+        cbocentrolucro = centro, cbocliente = contato;
+        lstreceber = lista;
+        cmdadicionarr = b[0], cmdmultiplosr = b[1], cmdalterarr = b[2], cmdremoverr = b[3], cmdrecibor = b[4],
+        cmdprojecoesr = b[5], cmdhistoricocli = b[6], cmdmesr = b[7];
+        lblreceberest = rotulo;
+    }
+    return tab;
+}
+
+QWidget* frmprincipal::montar_tab_movimento() {
+    auto* tab = new QWidget;
+    auto* v = new QVBoxLayout(tab);
+    pictopbancario = named(new QWidget, "pictopbancario");
+    auto* h = new QHBoxLayout(pictopbancario);
+    h->setContentsMargins(0, 0, 0, 0);
+    cbotipom = filter_box("cbotipom", words({"Todos os dados", "Retiradas", "Depósitos", "Transferências"}));
+    cbofiltrom = filter_box("cbofiltrom", words({"Todos os dados", "Apenas deste ano", "Apenas deste mês",
+                                                 "Apenas do dia", "Ultimos 7 dias", "Ultimos 15 dias"}));
+    cboorgm = filter_box("cboorgm", words({"Data de cadastro", "Tipo de movimento", "Valor", "Estatus",
+                                           "Conta origem", "Conta destino"}));
+    optascm = named(new QRadioButton(QStringLiteral("Crescente")), "optascm");
+    optdescm = named(new QRadioButton(QStringLiteral("Decrescente")), "optdescm");
+    optascm->setChecked(true);
+    h->addWidget(labelled(QStringLiteral("Mostrar:"), cbotipom));
+    h->addWidget(labelled(QStringLiteral("Período:"), cbofiltrom));
+    h->addWidget(labelled(QStringLiteral("Organizar por:"), cboorgm));
+    auto* ordem = new QWidget;
+    auto* ol = new QVBoxLayout(ordem);
+    ol->setContentsMargins(0, 0, 0, 0);
+    ol->addWidget(optascm);
+    ol->addWidget(optdescm);
+    h->addWidget(ordem);
+    h->addStretch();
+    lstmovimento = named(new list_view, "lstmovimento");
+    auto* botoes = new QHBoxLayout;
+    cmdadicionarm = button("cmdadicionarm", "Adicionar");
+    cmdalterarm = button("cmdalterarm", "Alterar");
+    cmdremoverm = button("cmdremoverm", "Remover");
+    botoes->addWidget(cmdadicionarm);
+    botoes->addWidget(cmdalterarm);
+    botoes->addWidget(cmdremoverm);
+    botoes->addStretch();
+    lblmovimentoest = named(new QLabel, "lblmovimentoest");
+    lblmovimentoest->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    v->addWidget(pictopbancario);
+    v->addWidget(lstmovimento, 1);
+    v->addLayout(botoes);
+    v->addWidget(lblmovimentoest);
+    return tab;
+}
+
+QWidget* frmprincipal::montar_tab_bancos() {
+    auto* tab = new QWidget;
+    auto* v = new QVBoxLayout(tab);
+    lstcaixabanco = named(new list_view, "lstcaixabanco");
+    auto* botoes = new QHBoxLayout;
+    cmdadicionarb = button("cmdadicionarb", "Adicionar");
+    cmdalterarb = button("cmdalterarb", "Alterar");
+    cmdremoverb = button("cmdremoverb", "Remover");
+    cmdconfbanc = button("cmdconfbanc", "Configurações");
+    botoes->addWidget(cmdadicionarb);
+    botoes->addWidget(cmdalterarb);
+    botoes->addWidget(cmdremoverb);
+    botoes->addWidget(cmdconfbanc);
+    botoes->addStretch();
+    lblresumocaixa = named(new QLabel(QStringLiteral("Resumo do caixa:")), "lblresumocaixa");
+    lblbanco = named(new QLabel, "lblbanco");
+    txtresucaixa = named(new QPlainTextEdit, "txtresucaixa");
+    txtresucaixa->setReadOnly(true);
+    auto* lado = new QHBoxLayout;
+    lado->addWidget(lstcaixabanco, 3);
+    auto* resumo = new QVBoxLayout;
+    resumo->addWidget(lblresumocaixa);
+    resumo->addWidget(txtresucaixa, 1);
+    lado->addLayout(resumo, 1);
+    v->addLayout(lado, 1);
+    v->addLayout(botoes);
+    v->addWidget(lblbanco);
+    return tab;
+}
+
+void frmprincipal::mostrar() {
+    const bool primeira = !carregado_;
+    if (primeira) {
+        carregado_ = true;
+        abrir();
+        if (QScreen* s = QGuiApplication::primaryScreen())
+            move(s->availableGeometry().center() - QPoint(width() / 2, height() / 2));
+    }
+    show();
+    raise();
+    activateWindow();
+    // windows that stay on top (the tip, the alerts) opened during the opening stay above this one
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w != this && w->isVisible() && (w->windowFlags() & Qt::WindowStaysOnTopHint)) w->raise();
+    if (primeira) ativar();
+}
+
+void frmprincipal::abrir() {
+    try {
+        // 1: the background picture; a missing file stops the opening here
+        QPixmap picture;
+        const QString fundo = store::program_path(QStringLiteral("\\fundo.gif"));
+        if (!picture.load(fundo))
+            throw std::runtime_error(QStringLiteral("Arquivo não encontrado: '%1'").arg(fundo).toStdString());
+        static_cast<fundo_widget*>(centralWidget())->set_picture(picture);
+        // 2-5
+        CarregarDados();
+        xtab->setCurrentIndex(0);
+        VerificarDica();
+        statustexto->setText(QStringLiteral("Seja bem vindo ao software   -   ") +
+                             vb::long_date(platform::today()));
+        // 6-7
+        item(QStringLiteral("mnuatualizarsaldo"))
+            ->setChecked(store::setting(store::secao_config, QStringLiteral("AtualizarSaldo"),
+                                        QStringLiteral("1")) != QLatin1String("0"));
+        const bool exibir = store::setting(store::secao_config, QStringLiteral("ExibirPrincipal"),
+                                           QStringLiteral("1")) != QLatin1String("0");
+        item(QStringLiteral("mnuexibirprincipal"))->setChecked(exibir);
+        picprincipal->setVisible(exibir);
+        // 8
+        {
+            sql::recordset rs;
+            rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset,
+                    sql::read_only);
+            rs.move_last();
+            rs.move_first();
+            if (rs.text(QStringLiteral("exigirlogin")) == QLatin1String("1"))
+                item(QStringLiteral("mnulogininiciar"))->setChecked(true);
+        }
+        // 9
+        if (store::setting(store::secao_config, QStringLiteral("ExibirPrincipal"), QStringLiteral("1")) ==
+            QLatin1String("1")) {
+            carregarpagar();
+            dadospagar();
+            carregarreceber();
+            dadosreceber();
+            carregarbancario();
+            CarregarConfigSoft();
+            QCoreApplication::processEvents();
+        }
+        // 10
+        if (store::setting(store::secao_config, QStringLiteral("AlertasVencimento"), QStringLiteral("1")) ==
+            QLatin1String("1")) {
+            item(QStringLiteral("mnualertavenc"))->setChecked(true);
+            frmalerta::VerificarVencimentos_ao_iniciar(this);
+        }
+        // 11
+        CarregarColuna();
+    } catch (const sql::error& e) {
+        platform::msgbox(
+            QStringLiteral("Ocorreu o seguinte erro ao tentar abrir o banco de dados: ") + e.description() +
+                QStringLiteral(" o banco de dados foi definido como local, reinicie o software."),
+            platform::critical, QStringLiteral("Erro"));
+    } catch (const std::exception& e) {
+        platform::msgbox(
+            QStringLiteral("Ocorreu o seguinte erro ao tentar abrir o banco de dados: ") +
+                QString::fromUtf8(e.what()) +
+                QStringLiteral(" o banco de dados foi definido como local, reinicie o software."),
+            platform::critical, QStringLiteral("Erro"));
+    }
+}
+
+void frmprincipal::VerificarDica() {
+    if (store::setting(store::secao_configuracoes, QStringLiteral("Exibir dica do dia"),
+                       QStringLiteral("1")) == QLatin1String("1")) {
+        item(QStringLiteral("mnudicadia"))->setChecked(true);
+        frmdica::mostrar(true, this);
+    }
+}
+
+void frmprincipal::ativar() {
+    // each step runs with errors ignored
+    store::conectarbanco();
+    try {
+        SalvarColuna();
+    } catch (const std::exception&) {
+    }
+    QString exigir;
+    if (ler_exigirlogin(exigir))
+        item(QStringLiteral("mnulogininiciar"))->setChecked(exigir == QLatin1String("1"));
+    try {
+        CarregarConfigSoft();
+    } catch (const std::exception&) {
+    }
+}
+
+bool frmprincipal::ler_exigirlogin(QString& valor) {
+    try {
+        sql::recordset rs;
+        rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset, sql::read_only);
+        if (rs.eof()) return false;
+        valor = rs.text(QStringLiteral("exigirlogin"));
+        return true;
+    } catch (const sql::error&) {
+        return false;
+    }
+}
+
+void frmprincipal::gravar_exigirlogin(bool exigir) {
+    store::conectarbanco();
+    try {
+        sql::recordset rs;
+        rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset, sql::pessimistic);
+        if (rs.eof()) return;
+        rs.set(QStringLiteral("exigirlogin"), exigir ? QStringLiteral("1") : QStringLiteral("0"));
+        rs.update();
+    } catch (const sql::error&) {
+    }
+}
+
+void frmprincipal::CarregarConfigSoft() {
+    using store::secao_config;
+    if (store::setting(secao_config, QStringLiteral("Iniciar"), QStringLiteral("0")) == QLatin1String("1"))
+        item(QStringLiteral("mnuiniciar"))->setChecked(true);
+    list_view* listas[] = {lstpagar, lstreceber, lstmovimento, lstcaixabanco};
+    const double tamanho =
+        vb::val(store::setting(secao_config, QStringLiteral("TamanhoFonte"), QStringLiteral("10")));
+    const QString nome = store::setting(secao_config, QStringLiteral("Fontenome"), QStringLiteral("Arial"));
+    const std::uint32_t cor =
+        vb::colour_number(store::setting(secao_config, QStringLiteral("Corfonte"), QStringLiteral("0")));
+    for (list_view* l : listas) {
+        QFont f = l->font();
+        if (tamanho > 0) f.setPointSizeF(tamanho);
+        f.setFamily(nome);
+        l->set_list_font(f);
+        l->set_text_colour(bgr_colour(cor));
+    }
+    const std::uint32_t cor1 = vb::colour_number(
+        store::setting(secao_config, QStringLiteral("CorFundo1"), QStringLiteral("&HFFFFFF")), 0xFFFFFF);
+    const std::uint32_t cor2 = vb::colour_number(
+        store::setting(secao_config, QStringLiteral("CorFundo2"), QStringLiteral("&HFFFFFF")), 0xFFFFFF);
+    QCoreApplication::processEvents();
+    for (list_view* l : listas)
+        pintarlinhas(l, bgr_colour(cor1), bgr_colour(cor2));
+}
+
+void frmprincipal::pintarlinhas(list_view* lista, const QColor& cor1, const QColor& cor2) {
+    if (lista) lista->pintarlinhas(cor1, cor2);
+}
+
+void frmprincipal::tab_mudou(int index) {
+    try {
+        if (index == 3) {
+            SalvarColuna();
+            carregarbancos();
+        } else if (index == 0) {
+            dadospagar();
+        } else if (index == 1) {
+            dadosreceber();
+        }
+    } catch (const std::exception&) {
+    }
+}
+
+void frmprincipal::closeEvent(QCloseEvent* e) {
+    fechando_ = true;
+    try {
+        SalvarColuna();
+    } catch (const std::exception&) {
+    }
+    e->accept();
+    desligar();
+}
+
+void frmprincipal::desligar() {
+    frmlogin::descarregar();
+    QCoreApplication::quit();
+}

@@ -1,0 +1,196 @@
+#pragma once
+// The main window: four tabs of lists, the menu tree, the toolbar and the status bar. It owns no
+// business rule; its routines gather what the controls show, call the logic and write back.
+
+#include "shell/principal_api.h"
+
+#include <QHash>
+#include <QMainWindow>
+#include <QPointer>
+
+class QAction;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QMenu;
+class QPushButton;
+class QRadioButton;
+class QTabWidget;
+class QToolBar;
+class QToolButton;
+class list_view;
+namespace shell {
+struct entry_filters;
+} // namespace shell
+
+class frmprincipal : public QMainWindow, public shell::principal_api {
+    Q_OBJECT
+public:
+    // The one main window, created at its first reference.
+    static frmprincipal* instance();
+    static bool exists();
+    ~frmprincipal() override;
+
+    // Makes the window visible; the first time runs its opening.
+    void mostrar();
+    bool carregado() const { return carregado_; }
+
+    // What the other windows ask of this one.
+    QWidget* janela() override { return this; }
+    void carregar(shell::ledger which) override;
+    void carregar_filtros(shell::ledger which) override;
+    void carregar_bancos() override { carregarbancos(); }
+    void mostrar_aba(shell::ledger which) override;
+
+    QString ordempagar;
+    QString ordemreceber;
+    QString sqlatual;
+
+    // Routines other windows call.
+    void CarregarConfigSoft();
+    void pintarlinhas(list_view* lista, const QColor& cor1, const QColor& cor2);
+    void CarregarDados();
+    void carregarpagar();
+    void carregarreceber();
+    void carregarbancario();
+    void dadospagar();
+    void dadosreceber();
+    void salvartudopagar();
+    void salvartudoreceber();
+    void salvartudobancario();
+    void CarregarColuna();
+    void SalvarColuna();
+
+    // Bank list (frmprincipal_bancos.cpp)
+    void carregarbancos();
+    void resumocaixa();
+
+    // List actions (frmprincipal_entradas.cpp, frmprincipal_movimento.cpp, frmprincipal_acoes.cpp)
+    void adicionarpagar();
+    void adicionarreceber();
+    void adicionarbanco();
+    void adicionarmovimento();
+    void multiplospagar();
+    void multiplosreceber();
+    void alterarpagar();
+    void alterarreceber();
+    void alterarbanco();
+    void alterarmovimento();
+
+    // Removals, settling, pop-up menus and the wiring of the list actions (frmprincipal_acoes.cpp)
+    void removerpagar();
+    void removerreceber();
+    void removermovimento();
+    void removerbanco();
+    void popbaixapagar();
+    void popbaixareceber();
+    void ligar_acoes();
+
+    // Menu items and toolbar, by name.
+    QAction* item(const QString& name) const { return items_.value(name); }
+    void executar_item(const QString& name);
+    void executar_botao(const QString& key);
+
+    // Controls
+    QWidget* picprincipal = nullptr;
+    QTabWidget* xtab = nullptr;
+    list_view* lstpagar = nullptr;
+    list_view* lstreceber = nullptr;
+    list_view* lstmovimento = nullptr;
+    list_view* lstcaixabanco = nullptr;
+    QWidget* pictoppagar = nullptr;
+    QWidget* pictoppagar2 = nullptr;
+    QWidget* pictopreceber = nullptr;
+    QWidget* pictoprec2 = nullptr;
+    QWidget* pictopbancario = nullptr;
+    QComboBox* cbotipop = nullptr;
+    QComboBox* cbofiltrop = nullptr;
+    QComboBox* cbobaseadoP = nullptr;
+    QComboBox* cbobancop = nullptr;
+    QComboBox* cbocentrocusto = nullptr;
+    QComboBox* cbofornecedor = nullptr;
+    QComboBox* cbotipor = nullptr;
+    QComboBox* cbofiltror = nullptr;
+    QComboBox* cbobaseadoR = nullptr;
+    QComboBox* cbobancor = nullptr;
+    QComboBox* cbocentrolucro = nullptr;
+    QComboBox* cbocliente = nullptr;
+    QComboBox* cbotipom = nullptr;
+    QComboBox* cbofiltrom = nullptr;
+    QComboBox* cboorgm = nullptr;
+    QRadioButton* optascm = nullptr;
+    QRadioButton* optdescm = nullptr;
+    QPushButton* cmdadicionard = nullptr;
+    QPushButton* cmdmultiplosp = nullptr;
+    QPushButton* cmdalterard = nullptr;
+    QPushButton* cmdremoverd = nullptr;
+    QPushButton* cmdrecibod = nullptr;
+    QPushButton* cmdprojecaop = nullptr;
+    QPushButton* cmdhistoricoforn = nullptr;
+    QPushButton* cmdmesp = nullptr;
+    QPushButton* cmdadicionarr = nullptr;
+    QPushButton* cmdmultiplosr = nullptr;
+    QPushButton* cmdalterarr = nullptr;
+    QPushButton* cmdremoverr = nullptr;
+    QPushButton* cmdrecibor = nullptr;
+    QPushButton* cmdprojecoesr = nullptr;
+    QPushButton* cmdhistoricocli = nullptr;
+    QPushButton* cmdmesr = nullptr;
+    QPushButton* cmdadicionarm = nullptr;
+    QPushButton* cmdalterarm = nullptr;
+    QPushButton* cmdremoverm = nullptr;
+    QPushButton* cmdadicionarb = nullptr;
+    QPushButton* cmdalterarb = nullptr;
+    QPushButton* cmdremoverb = nullptr;
+    QPushButton* cmdconfbanc = nullptr;
+    QLabel* lblpagarest = nullptr;
+    QLabel* lblreceberest = nullptr;
+    QLabel* lblmovimentoest = nullptr;
+    QLabel* lblresumocaixa = nullptr;
+    QLabel* lblbanco = nullptr;
+    QPlainTextEdit* txtresucaixa = nullptr;
+    QToolBar* tbrbarra = nullptr;
+    QLabel* statustexto = nullptr;
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    frmprincipal();
+    void montar_tabs();
+    QWidget* montar_tab_ledger(bool pagar);
+    QWidget* montar_tab_movimento();
+    QWidget* montar_tab_bancos();
+    void montar_menus();
+    void montar_toolbar();
+    void ligar_filtros();
+    void ligar_botoes();
+
+    // The ledger lists, by which one
+    list_view* lista(shell::ledger which) const;
+    shell::entry_filters filtros(shell::ledger which) const;
+    void carregar_entradas(shell::ledger which);
+    void dados_entradas(shell::ledger which);
+    void cabecalho_clicado(shell::ledger which);
+
+    // Opening and activation
+    void abrir();
+    void ativar();
+    void VerificarDica();
+    bool ler_exigirlogin(QString& valor);
+    void gravar_exigirlogin(bool exigir);
+    void tab_mudou(int index);
+
+    // Menu routines of this window
+    void alternar_item(const QString& name);
+    void mnuexibirprincipal_click();
+    void mnuiniciar_click();
+    void mnulogininiciar_click();
+    void desligar();
+
+    QHash<QString, QAction*> items_;
+    QHash<QString, QToolButton*> toolbar_buttons_;
+    bool carregado_ = false;
+    bool fechando_ = false;
+};
