@@ -1,5 +1,6 @@
 #include "platform/print/printer.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
@@ -47,8 +48,29 @@ print_target::outcome pdf_target::prepare(QPrinter& p) {
     return ready;
 }
 
+QString printing_family(const QString& asked) {
+    // The layouts were measured in the Windows core fonts. Where the machine lacks one, its
+    // metric-compatible twin keeps every tab column and page break where the layout put them;
+    // leaving the choice to the system would give a wider face and push columns off the page.
+    static const struct {
+        const char* asked;
+        const char* twin;
+    } twins[] = {{"arial", "Liberation Sans"},
+                 {"helvetica", "Liberation Sans"},
+                 {"times new roman", "Liberation Serif"},
+                 {"courier new", "Liberation Mono"}};
+    static const QStringList installed = QFontDatabase::families();
+    const auto has = [&](const QString& family) { return installed.contains(family, Qt::CaseInsensitive); };
+    if (has(asked)) return asked;
+    const QString key = asked.trimmed().toLower();
+    for (const auto& t : twins)
+        if (key == QLatin1String(t.asked) && has(QLatin1String(t.twin))) return QLatin1String(t.twin);
+    // a face the layouts never ask for: the sans twin rather than whatever the system picks
+    return has(QStringLiteral("Liberation Sans")) ? QStringLiteral("Liberation Sans") : asked;
+}
+
 QFont twips_font(const QString& name, double points, bool bold) {
-    QFont f(name);
+    QFont f(printing_family(name));
     f.setPixelSize(std::max(1, int(points * 20 + 0.5)));
     f.setBold(bold);
     f.setHintingPreference(QFont::PreferNoHinting);

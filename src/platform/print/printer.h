@@ -59,6 +59,9 @@ private:
 
 // A font measured in twips: its pixel size is the point size in twentieths of a point.
 QFont twips_font(const QString& name, double points, bool bold = false);
+// The family a page is drawn in for the one a layout asks: the asked one when installed, else its
+// metric-compatible twin (Arial -> Liberation Sans), the same on every machine.
+QString printing_family(const QString& asked);
 // Where the printable area of a format lies, in twips: its size (no job needed).
 QSizeF printable_size(const page_format& format);
 
