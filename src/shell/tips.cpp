@@ -4,16 +4,11 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 #include <QStringDecoder>
 
 #include <cmath>
 
 namespace shell {
-
-double system_random() {
-    return QRandomGenerator::global()->generateDouble();
-}
 
 QString tips_file() {
     return store::program_path(QStringLiteral("\\dicas.txt"));
@@ -52,8 +47,8 @@ std::optional<QStringList> read_tips(const QString& arquivo) {
     return lines;
 }
 
-int pick_tip(int count, const random_source& rnd) {
-    double r = rnd ? rnd() : system_random();
+int pick_tip(int count, const platform::random_source& rnd) {
+    double r = rnd ? rnd() : platform::rnd();
     if (!(r >= 0.0)) r = 0.0; // NaN too
     int index = int(std::floor(double(count) * r)) + 1;
     if (count > 0 && index > count) index = count;

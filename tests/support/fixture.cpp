@@ -1,6 +1,7 @@
 #include "support/fixture.h"
 
 #include "app/actions.h"
+#include "platform/random.h"
 #include "platform/settings.h"
 #include "store/conexao.h"
 #include "store/data_file.h"
@@ -33,6 +34,7 @@ void fixture::SetUp() {
     store::set_program_dir(dir_.path());
     platform::set_settings_root(path(QStringLiteral("config")));
     platform::set_clock(&clock_);
+    platform::set_random_source([] { return 0.0; });
     platform::set_prompts(&prompts_);
     platform::set_shell(&shell_);
     static const bool registered = (app::register_actions(), true);
@@ -42,6 +44,7 @@ void fixture::SetUp() {
 void fixture::TearDown() {
     store::conexao.reset();
     platform::set_clock(nullptr);
+    platform::set_random_source({});
     platform::set_prompts(nullptr);
     platform::set_shell(nullptr);
     platform::set_settings_root(QString());

@@ -1,7 +1,7 @@
 #pragma once
 // The fixture of every test: a temporary program folder holding a fresh data file, dicas.txt and
-// fundo.gif; settings in a folder of their own; a fixed clock; scripted prompts; a shell that
-// only records.
+// fundo.gif; settings in a folder of their own; a fixed clock; chance that always draws 0; scripted
+// prompts; a shell that only records.
 
 #include "platform/clock.h"
 #include "platform/prompts.h"

@@ -16,7 +16,6 @@
 #include <exception>
 
 QPointer<frmdica> frmdica::carregada_;
-shell::random_source frmdica::fonte_;
 
 namespace {
 
@@ -33,7 +32,7 @@ void gravar_dica(const QString& valor) {
 frmdica::frmdica(QWidget* parent)
     : QDialog(parent), lbltitulo(named(new QLabel, "lbltitulo")), lblTipText(named(new QLabel, "lblTipText")),
       chkdicadia(named(new QCheckBox, "chkdicadia")), cmdNextTip(named(new QPushButton, "cmdNextTip")),
-      cmdok(named(new QPushButton, "cmdok")), aleatorio_(fonte_) {
+      cmdok(named(new QPushButton, "cmdok")) {
     setObjectName(QStringLiteral("frmdica"));
     setWindowTitle(QStringLiteral("Dica do Dia"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -83,10 +82,6 @@ frmdica::~frmdica() {
 
 frmdica* frmdica::carregada() {
     return carregada_.data();
-}
-
-void frmdica::set_random_source(shell::random_source rnd) {
-    fonte_ = std::move(rnd);
 }
 
 frmdica* frmdica::mostrar(bool ao_iniciar, QWidget* parent) {
@@ -141,7 +136,7 @@ void frmdica::DisplayCurrentTip() {
 }
 
 void frmdica::escolher_dica() {
-    CurrentTip = shell::pick_tip(int(dicas.size()), aleatorio_);
+    CurrentTip = shell::pick_tip(int(dicas.size()));
     DisplayCurrentTip();
 }
 

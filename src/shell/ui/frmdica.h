@@ -30,8 +30,6 @@ public:
     static frmdica* mostrar_por_pedido(QWidget* parent = nullptr);
     // The loaded window, if any.
     static frmdica* carregada();
-    // The random source of the windows loaded after this call; empty: the process's generator.
-    static void set_random_source(shell::random_source rnd);
 
     // The opening; false when the window unloaded.
     bool abrir(bool ao_iniciar);
@@ -61,9 +59,7 @@ protected:
 private:
     void restaurar();
 
-    shell::random_source aleatorio_;
     QPixmap fundo_;
     std::optional<QString> restaurar_; // the value to write back at closing (opened on request)
     static QPointer<frmdica> carregada_;
-    static shell::random_source fonte_;
 };

@@ -1,3 +1,4 @@
+#include "platform/random.h"
 #include "platform/widgets/list_view.h"
 #include "shell/ui/frmalerta.h"
 #include "shell/ui/frmdica.h"
@@ -25,7 +26,6 @@ protected:
     void TearDown() override {
         delete frmalerta::carregada();
         delete frmdica::carregada();
-        frmdica::set_random_source({});
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         support::fixture::TearDown();
     }
@@ -148,7 +148,7 @@ TEST_F(startup_windows, next_tip_picks_by_the_random_source) {
     tips("primeira\nsegunda\nterceira\n");
     std::vector<double> sorteios = {0.0, 0.99, 0.5, 0.4};
     std::size_t i = 0;
-    frmdica::set_random_source([&] { return sorteios.at(i++); });
+    platform::set_random_source([&] { return sorteios.at(i++); });
     frmdica* w = frmdica::mostrar(true);
     ASSERT_NE(w, nullptr);
     ASSERT_EQ(w->dicas.size(), 3);
