@@ -37,9 +37,11 @@ void fill_names(QComboBox* box, const QStringList& names) {
     box->setEditText(names.isEmpty() ? QString() : names.front());
 }
 
-void show_form(QWidget* form) {
+namespace {
+
+void show_placed(QWidget* form, bool fit) {
     if (!form->isVisible() && !form->property("quintara_placed").toBool()) {
-        form->adjustSize();
+        if (fit) form->adjustSize();
         QWidget* over = QApplication::activeWindow();
         QRect area;
         if (over && over != form)
@@ -52,4 +54,14 @@ void show_form(QWidget* form) {
     form->show();
     form->raise();
     form->activateWindow();
+}
+
+} // namespace
+
+void show_form(QWidget* form) {
+    show_placed(form, true);
+}
+
+void show_window(QWidget* window) {
+    show_placed(window, false);
 }

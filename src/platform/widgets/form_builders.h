@@ -25,3 +25,5 @@ QLabel* picture(const char* name, QStyle::StandardPixmap icon);
 void fill_names(QComboBox* box, const QStringList& names);
 // Shows a form in front, placed the first time over the middle of the window the user was in.
 void show_form(QWidget* form);
+// The same for a window that keeps the size it was given (lists, reports).
+void show_window(QWidget* window);
