@@ -22,6 +22,29 @@ void line(QIODevice& out, const QString& s) {
     out.write(s.toUtf8() + QByteArrayLiteral("\r\n"));
 }
 
+// From "Gerado" to the maker's address, the same under every text report.
+void text_foot(QIODevice& out) {
+    line(out, linha_gerado());
+    line(out, QString());
+    line(out, nome_relatorio());
+    line(out, QString());
+    line(out, slogan_relatorio());
+    line(out, site_relatorio());
+}
+
+// The closing block and the foot of every HTML report.
+void html_foot(QIODevice& out, const QString& fechamento) {
+    line(out, QStringLiteral("<p><font face='Arial'><center>"));
+    line(out, QStringLiteral("<br><b>Estatísticas</b><hr>") + fechamento + QStringLiteral("<hr><br>"));
+    line(out, linha_gerado() + QStringLiteral("<br>"));
+    line(out, QStringLiteral("<br>"));
+    line(out, QStringLiteral("<b>") + nome_relatorio() + QStringLiteral("</b><br>"));
+    line(out, QStringLiteral("<br>"));
+    line(out, slogan_relatorio() + QStringLiteral("<br>"));
+    line(out, linha_site_html());
+    line(out, QStringLiteral("</center></font></p>"));
+}
+
 QString heading(const report_texts& t) {
     if (t.janela == janela_relatorio::movimento) return t.caption.toUpper();
     return t.caption.toUpper() + QStringLiteral(" - ") + t.tipo.toUpper();
@@ -73,12 +96,7 @@ void write_text_report(QIODevice& out, const report_texts& t, const platform::ta
     }
     line(out, t.totais);
     line(out, QString());
-    line(out, linha_gerado());
-    line(out, QString());
-    line(out, nome_relatorio());
-    line(out, QString());
-    line(out, slogan_relatorio());
-    line(out, site_relatorio());
+    text_foot(out);
 }
 
 void write_html_report(QIODevice& out, const report_texts& t, const platform::table_source* lista,
@@ -99,15 +117,48 @@ void write_html_report(QIODevice& out, const report_texts& t, const platform::ta
         platform::busy_span hourglass;
         exportador.Exportar_listaparaHTML(out, *lista);
     }
-    line(out, QStringLiteral("<p><font face='Arial'><center>"));
-    line(out, QStringLiteral("<br><b>Estatísticas</b><hr>") + t.totais + QStringLiteral("<hr><br>"));
-    line(out, linha_gerado() + QStringLiteral("<br>"));
-    line(out, QStringLiteral("<br>"));
-    line(out, QStringLiteral("<b>") + nome_relatorio() + QStringLiteral("</b><br>"));
-    line(out, QStringLiteral("<br>"));
-    line(out, slogan_relatorio() + QStringLiteral("<br>"));
-    line(out, linha_site_html());
+    html_foot(out, t.totais);
+}
+
+void write_text_list(QIODevice& out, const list_frame& f, const platform::table_source* lista,
+                     c_relatorios& exportador) {
+    line(out, f.titulo);
+    line(out, QString());
+    for (const QString& l : f.topo) {
+        line(out, l);
+        line(out, QString());
+    }
+    line(out, linha_produto);
+    line(out, QString());
+    if (lista) {
+        platform::busy_span hourglass;
+        exportador.Exportar_listaparaTXT(out, QString(), *lista, true);
+    }
+    line(out, QString());
+    for (const QString& l : f.fechamento)
+        line(out, l);
+    line(out, QString());
+    text_foot(out);
+}
+
+void write_html_list(QIODevice& out, const list_frame& f, const platform::table_source* lista,
+                     c_relatorios& exportador) {
+    if (out.isWritable()) out.write(QByteArrayLiteral("\xEF\xBB\xBF"));
+    line(out, QStringLiteral("<html>\r\n<head>\r\n<title>") + f.titulo + QStringLiteral("</title>"));
+    line(out, QStringLiteral("<p><font face='Arial'>"));
+    line(out, QStringLiteral("<center><b>") + f.titulo + QStringLiteral("</b>"));
+    line(out, QStringLiteral("<hr>"));
+    for (const QString& l : f.topo) {
+        line(out, l);
+        line(out, QStringLiteral("<br>"));
+    }
+    line(out, linha_produto + QStringLiteral("<br><br>"));
     line(out, QStringLiteral("</center></font></p>"));
+    if (lista) {
+        platform::busy_span hourglass;
+        exportador.Exportar_listaparaHTML(out, *lista);
+    }
+    html_foot(out, f.fechamento.join(QStringLiteral("<br>")));
 }
 
 QString save_title(formato_relatorio f) {
@@ -129,27 +180,21 @@ void perguntar_visualizar(const QString& arquivo) {
     if (r == platform::answer_yes) platform::desktop().open(arquivo);
 }
 
-QString salvar_relatorio(formato_relatorio f, const report_texts& t, const platform::table_source* lista,
-                         c_relatorios& exportador) {
+QString salvar_arquivo(const QString& titulo, const QString& filtro, progress* bar,
+                       const std::function<void(QIODevice&)>& escrever) {
     QString arquivo;
     try {
-        arquivo = platform::ask().save_file(save_title(f), save_filter(t.janela, f), QString());
+        arquivo = platform::ask().save_file(titulo, filtro, QString());
     } catch (...) {
         return {};
     }
     if (arquivo.isEmpty()) return arquivo;
     // each step on its own: a failure skips that step and the next one runs
-    progress* bar = exportador.Progresbar();
     if (bar) bar->set_visible(true);
     try {
         // an unwritable file leaves nothing written and nothing touched
         QFile file(arquivo);
-        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-            if (f == formato_relatorio::txt)
-                write_text_report(file, t, lista, exportador);
-            else
-                write_html_report(file, t, lista, exportador);
-        }
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) escrever(file);
     } catch (...) {
     }
     if (bar) bar->set_visible(false);
@@ -158,6 +203,17 @@ QString salvar_relatorio(formato_relatorio f, const report_texts& t, const platf
     } catch (...) {
     }
     return arquivo;
+}
+
+QString salvar_relatorio(formato_relatorio f, const report_texts& t, const platform::table_source* lista,
+                         c_relatorios& exportador) {
+    return salvar_arquivo(save_title(f), save_filter(t.janela, f), exportador.Progresbar(),
+                          [&](QIODevice& file) {
+                              if (f == formato_relatorio::txt)
+                                  write_text_report(file, t, lista, exportador);
+                              else
+                                  write_html_report(file, t, lista, exportador);
+                          });
 }
 
 } // namespace output

@@ -6,6 +6,9 @@
 #include "output/c_relatorios.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <functional>
 
 class QIODevice;
 
@@ -40,6 +43,19 @@ void write_text_report(QIODevice& out, const report_texts& t, const platform::ta
 void write_html_report(QIODevice& out, const report_texts& t, const platform::table_source* lista,
                        c_relatorios& exportador);
 
+// The frame of a list window's export (appointments and the like): the title, the lines under it,
+// the product line, the table, the closing block where the report windows have their totals, and
+// the common foot.
+struct list_frame {
+    QString titulo;         // as it stands; callers give it in upper case
+    QStringList topo;       // text: each line and an empty one; HTML: each line and "<br>"
+    QStringList fechamento; // text: one line each; HTML: joined by "<br>" between the rules
+};
+void write_text_list(QIODevice& out, const list_frame& f, const platform::table_source* lista,
+                     c_relatorios& exportador);
+void write_html_list(QIODevice& out, const list_frame& f, const platform::table_source* lista,
+                     c_relatorios& exportador);
+
 enum class formato_relatorio { txt, html };
 
 // Dialog title and filter of the save action of frmrelatorio and frmmovimento.
@@ -48,6 +64,12 @@ QString save_filter(janela_relatorio j, formato_relatorio f);
 
 // "Visualizar": asked after every save, whatever became of the file; Yes opens it.
 void perguntar_visualizar(const QString& arquivo);
+
+// The save action of every exporting window, with its own dialog words: the save dialog, the file
+// written by escrever with the bar shown, the "Visualizar" question. Returns the file name chosen
+// (empty: cancelled). Nothing here throws.
+QString salvar_arquivo(const QString& titulo, const QString& filtro, progress* bar,
+                       const std::function<void(QIODevice&)>& escrever);
 
 // The save action of the two report windows. Returns the file name chosen (empty: cancelled).
 // The bar of the exporter is shown while the file is written; nothing here throws.
