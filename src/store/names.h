@@ -55,6 +55,9 @@ inline const QString saldo = QStringLiteral("saldo");
 inline const QString nome = QStringLiteral("nome");
 inline const QString senha = QStringLiteral("senha");
 inline const QString exigirlogin = QStringLiteral("exigirlogin");
+inline const QString hora = QStringLiteral("hora");
+inline const QString titulo = QStringLiteral("Titulo");
+inline const QString local = QStringLiteral("local");
 } // namespace coluna
 
 namespace palavra {
