@@ -106,14 +106,16 @@ void frmloginsoft::mostrar_principal() {
     if (shell::principal_api* p = shell::principal()) {
         j = p->janela();
         j->show();
-    }
-    for (const QPointer<QWidget>& t : escondidas_)
-        if (t && t != j) t->show();
-    escondidas_.clear();
-    if (j) {
         j->raise();
         j->activateWindow();
     }
+    // the windows that were open come back over the main window, as they stood
+    for (const QPointer<QWidget>& t : escondidas_)
+        if (t && t != j) {
+            t->show();
+            t->raise();
+        }
+    escondidas_.clear();
 }
 
 void frmloginsoft::cmdentrar_click() {
