@@ -1,11 +1,10 @@
 #include "analysis/vencimentos.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/text/vb_text.h"
 #include "shell/ledger_load.h"
 #include "store/conexao.h"
-
-#include <exception>
 
 namespace analysis {
 
@@ -32,16 +31,15 @@ QString comando_vencimento(shell::ledger which, const QDate& hoje) {
 
 vencimentos carregar_vencimentos(shell::ledger which, const QDate& hoje) {
     vencimentos v;
-    try {
+    // errors are ignored: the lists keep what was read
+    platform::ignore_errors([&] {
         sql::recordset rs;
         rs.open(comando_vencimento(which, hoje), store::conexao, sql::keyset, sql::read_only);
-        if (rs.eof()) return v;
+        if (rs.eof()) return;
         rs.move_last();
         rs.move_first();
         v.mes = shell::load_rows(which, rs).rows;
-    } catch (const std::exception&) {
-        // errors are ignored: the lists keep what was read
-    }
+    });
     const QString hoje_ymd = vb::ymd(hoje);
     const QString formato = QStringLiteral("yyyy/mm/dd");
     constexpr int vencimento = 5;

@@ -1,11 +1,10 @@
 #include "registers/compromissos.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/text/vb_text.h"
 #include "shell/ledger_load.h"
 #include "store/conexao.h"
-
-#include <exception>
 
 namespace registers {
 
@@ -88,7 +87,8 @@ QString dias_restantes(const QString& data, const QDate& hoje) {
 
 std::vector<QStringList> carregar(const QString& comando, const QDate& hoje) {
     std::vector<QStringList> linhas;
-    try {
+    // errors are ignored: the list shows what was read
+    platform::ignore_errors([&] {
         store::conectarbanco();
         sql::recordset rs;
         rs.open(comando, conexao, sql::keyset, sql::read_only);
@@ -103,9 +103,7 @@ std::vector<QStringList> carregar(const QString& comando, const QDate& hoje) {
             linhas.push_back({shell::display_date(data), campo(i_hora), campo(i_titulo), campo(i_local),
                               dias_restantes(data, hoje)});
         }
-    } catch (const std::exception&) {
-        // errors are ignored: the list shows what was read
-    }
+    });
     return linhas;
 }
 

@@ -1,5 +1,6 @@
 #include "shell/usuarios.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "shell/login.h"
 #include "store/conexao.h"
@@ -125,14 +126,13 @@ QString ler_exigirlogin() {
 
 void gravar_exigirlogin(bool exigir) {
     store::conectarbanco();
-    try {
+    platform::ignore_errors([&] {
         sql::recordset rs;
         rs.open(QStringLiteral("SELECT * FROM login_inicia"), conexao, sql::keyset, sql::pessimistic);
         if (rs.eof()) return;
         rs.set(coluna::exigirlogin, exigir ? QStringLiteral("1") : QStringLiteral("0"));
         rs.update();
-    } catch (const sql::error&) {
-    }
+    });
 }
 
 } // namespace shell

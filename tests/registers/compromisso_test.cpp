@@ -180,6 +180,11 @@ TEST_F(compromissos, add_trims_all_but_the_description_and_an_edit_keeps_every_t
     EXPECT_EQ(tabela().mid(0, 3), (QStringList{u"2026/11/24|14:00|Reunião|Auditório|pauta"_s,
                                                u"2026/11/24|14:00|Reunião|Auditório|pauta"_s,
                                                u"2026/12/05|14:00|Outra|Sala 2|pauta"_s}));
+    // no field is required: an empty appointment is stored as it stands, and nothing is said
+    w->adicionar();
+    f->cbodata->clear();
+    f->cmdok->click();
+    EXPECT_EQ(tabela().last(), u"||||"_s);
     EXPECT_TRUE(prompts_.boxes().empty());
 }
 

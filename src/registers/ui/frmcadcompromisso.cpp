@@ -1,6 +1,7 @@
 #include "registers/ui/frmcadcompromisso.h"
 
 #include "platform/clock.h"
+#include "platform/errors.h"
 #include "platform/prompts.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/field_helpers.h"
@@ -140,7 +141,7 @@ void frmcadcompromisso::adicionar() {
         erro(registers::erro_cadastrar + e.description());
         return;
     } catch (const std::exception& e) {
-        erro(registers::erro_cadastrar + QString::fromUtf8(e.what()));
+        erro(registers::erro_cadastrar + platform::error_text(e));
         return;
     }
     concluir();
@@ -154,7 +155,7 @@ void frmcadcompromisso::editar() {
         erro(registers::erro_editar + e.description());
         return;
     } catch (const std::exception& e) {
-        erro(registers::erro_editar + QString::fromUtf8(e.what()));
+        erro(registers::erro_editar + platform::error_text(e));
         return;
     }
     concluir();

@@ -1,6 +1,7 @@
 #include "registers/ui/frmcompromisso.h"
 
 #include "platform/clock.h"
+#include "platform/errors.h"
 #include "platform/prompts.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/field_helpers.h"
@@ -182,12 +183,11 @@ void frmcompromisso::remover() {
     if (platform::msgbox(registers::pergunta_remover, platform::yes_no | platform::question,
                          QStringLiteral("Remover")) != platform::answer_yes)
         return;
-    try {
+    // errors are ignored: a statement that fails removes nothing
+    platform::ignore_errors([&] {
         store::conectarbanco();
         registers::remover(titulo);
-    } catch (const std::exception&) {
-        // errors are ignored: nothing was removed
-    }
+    });
     Carregartudo();
 }
 

@@ -1,5 +1,6 @@
 #include "shell/ui/frmgerenciarlogin.h"
 
+#include "platform/errors.h"
 #include "platform/prompts.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/form_builders.h"
@@ -111,12 +112,11 @@ void frmgerenciarlogin::abrir() {
 void frmgerenciarlogin::carregarusuarios() {
     const QSignalBlocker b(lstusuarios);
     lstusuarios->clear();
-    try {
+    // an unreadable table shows an empty list
+    platform::ignore_errors([&] {
         store::conectarbanco();
         lstusuarios->addItems(shell::nomes_usuarios());
-    } catch (const std::exception&) {
-        // an unreadable table shows an empty list
-    }
+    });
 }
 
 void frmgerenciarlogin::lstusuarios_click() {
@@ -206,7 +206,7 @@ void frmgerenciarlogin::cdmremover_click() {
         if (store::conexao) store::conexao->execute(shell::comando_remover_usuario(nome));
     } catch (const std::exception& e) {
         aviso(QStringLiteral("Ocorreu o seguinte erro ao tentar remover os dados: ") +
-                  QString::fromUtf8(e.what()),
+                  platform::error_text(e),
               platform::exclamation, titulo_erro);
     }
     // the row a click held may be gone: nothing stays loaded for cdmatualizar
