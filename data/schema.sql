@@ -142,3 +142,11 @@ CREATE INDEX pagar_origem_dobrada ON pagar (quintara_fold(origem), quintara_fold
 CREATE INDEX receber_origem_dobrada ON receber (quintara_fold(origem), quintara_fold(estatus));
 CREATE INDEX bancario_origem_dobrada ON bancario (quintara_fold(origem), quintara_fold(estatus), quintara_fold(movimento));
 CREATE INDEX bancario_destino_dobrada ON bancario (quintara_fold(destino), quintara_fold(estatus), quintara_fold(movimento));
+
+-- A centre's name is its identity, compared as LIKE compares it: a second name that differs only in
+-- case is refused, on adding and on renaming.
+CREATE UNIQUE INDEX pcontapagar_descricao ON pcontapagar (quintara_fold(descricao));
+CREATE UNIQUE INDEX pcontareceber_descricao ON pcontareceber (quintara_fold(descricao));
+-- The entries of a centre, for its summary.
+CREATE INDEX pagar_descricao_dobrada ON pagar (quintara_fold(descricao));
+CREATE INDEX receber_descricao_dobrada ON receber (quintara_fold(descricao));

@@ -1,8 +1,10 @@
 #include "app/actions.h"
 
 #include "analysis/ui/actions.h"
+#include "analysis/ui/integrated_actions.h"
 #include "banks/ui/actions.h"
 #include "registers/ui/actions.h"
+#include "registers/ui/centres_actions.h"
 #include "shell/ui/actions.h"
 
 namespace app {
@@ -12,6 +14,8 @@ void register_actions() {
     shell::register_actions();
     registers::register_actions();
     analysis::register_actions();
+    registers::register_centre_actions();
+    analysis::register_integrated_actions();
 }
 
 } // namespace app

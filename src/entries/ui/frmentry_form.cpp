@@ -40,18 +40,25 @@ entry_form::entry_form(const QString& name, entries::list_source bank_list, QStr
     cmdbancoinc = button("cmdbancoinc", QStringLiteral("Cadastrar novo"));
     cmddescinc = button("cmddescinc", QStringLiteral("Cadastrar novo"));
     cmdforncliinc = button("cmdforncliinc", QStringLiteral("Cadastrar novo"));
-    // the windows of centres, clients and suppliers are not part of this program yet
-    cmddescinc->setEnabled(false);
+    // the windows of clients and suppliers are not part of this program yet
     cmdforncliinc->setEnabled(false);
 
     connect(cmdinserir, &QPushButton::clicked, this, &entry_form::cmdinserir_click);
     connect(cmdcancelar, &QPushButton::clicked, this, &entry_form::cmdcancelar_click);
     connect(cmdbancoinc, &QPushButton::clicked, this, &entry_form::cmdbancoinc_click);
+    connect(cmddescinc, &QPushButton::clicked, this, &entry_form::cmddescinc_click);
     cmdbancoinc->setEnabled(shell::find_action(QStringLiteral("frmbanco")) != nullptr);
+    cmddescinc->setEnabled(shell::find_action(QStringLiteral("frmcentrocusto")) &&
+                           shell::find_action(QStringLiteral("frmcentrolucro")));
     // an account added by the quick add: the box refilled and showing it
     connect(&shell::avisos::instance(), &shell::avisos::cadastrado, this,
             [this](shell::cadastro que, const QString& nome) {
-                if (que != shell::cadastro::banco || descarregado_) return;
+                if (descarregado_) return;
+                if (que == shell::cadastro::centrocusto || que == shell::cadastro::centrolucro) {
+                    centro_cadastrado(que == shell::cadastro::centrocusto, nome);
+                    return;
+                }
+                if (que != shell::cadastro::banco) return;
                 if (isVisible()) {
                     carregarbanco();
                     cboorigem->setEditText(nome);
@@ -116,6 +123,23 @@ void entry_form::cmdcancelar_click() {
 void entry_form::cmdbancoinc_click() {
     sempretopo(QStringLiteral("desativo"), this);
     shell::run_action(QStringLiteral("frmbanco"));
+}
+
+void entry_form::cmddescinc_click() {
+    sempretopo(QStringLiteral("desativo"), this);
+    shell::run_action(PIC1->isVisibleTo(this) ? QStringLiteral("frmcentrocusto")
+                                              : QStringLiteral("frmcentrolucro"));
+}
+
+void entry_form::centro_cadastrado(bool custo, const QString& nome) {
+    // the centre windows refill the box of their own kind, whatever this window is dressed as
+    if (!isVisible()) return;
+    if (custo)
+        planopagar();
+    else
+        planoreceber();
+    // no name: the centres changed, the box is only refilled
+    if (!nome.isEmpty()) txtdescricao->setEditText(nome);
 }
 
 void entry_form::descarregar() {

@@ -20,6 +20,7 @@ public:
     void cmdinserir_click();
     void cmdcancelar_click();
     void cmdbancoinc_click();
+    void cmddescinc_click();
 
     // What the fields show.
     entries::entry_fields campos() const;
@@ -58,6 +59,9 @@ protected:
     static void recarregar_principal(entries::kind k, bool com_filtros);
 
 private:
+    // A centre added or renamed (a name), or the centre window closed (no name).
+    void centro_cadastrado(bool custo, const QString& nome);
+
     QString expense_caption_;
     atalhos* atalhos_ = nullptr;
     bool descarregado_ = false;

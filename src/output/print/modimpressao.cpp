@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace output::modimpressao {
 
 namespace {
@@ -131,6 +133,19 @@ void estatisticas(platform::printer& p, const QString& totais) {
     p.new_line();
     rule(p, QStringLiteral("_"));
     p.new_line();
+    rodape_comum(p);
+}
+
+void regua(platform::printer& p, const QString& ch) {
+    rule(p, ch);
+}
+
+void regua(platform::printer& p, const QString& ch, int n) {
+    p.set_CurrentX(0);
+    p.print(ch.repeated(std::max(n, 0)));
+}
+
+void rodape_comum(platform::printer& p) {
     p.print(linha_gerado());
     p.new_line();
     p.new_line();
@@ -138,6 +153,50 @@ void estatisticas(platform::printer& p, const QString& totais) {
     p.new_line();
     p.print(slogan_relatorio());
     p.new_line();
+}
+
+bool imprimir_blocos(cabecalho c, const QString& titulo, const QString& subtitulo,
+                     const std::vector<bloco>& blocos) {
+    try {
+        platform::printer p;
+        platform::page_format format;
+        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
+        switch (p.begin(titulo, format)) {
+        case platform::printer::cancelled:
+            return false;
+        case platform::printer::no_printer:
+        case platform::printer::failed:
+            erro_impressao();
+            return false;
+        case platform::printer::started:
+            break;
+        }
+        p.set_FontName(QStringLiteral("Arial"));
+        estado e{titulo, subtitulo, 0, 0};
+        cabecalho_pagina(p, e, c);
+        p.set_CurrentX(0);
+        p.print(QStringLiteral("Estatísticas"));
+        p.new_line();
+        rule(p, QStringLiteral("_"));
+        p.new_line();
+        p.new_line();
+        for (const bloco& b : blocos) {
+            if (p.CurrentY() > p.ScaleHeight() - 1000) p.NewPage();
+            p.print(b.titulo);
+            p.new_line();
+            p.print(b.texto);
+            // a text that ends its last line leaves the position at the start of the next one
+            if (p.CurrentX() > 0) p.new_line();
+        }
+        rule(p, QStringLiteral("_"));
+        p.new_line();
+        rodape_comum(p);
+        p.EndDoc();
+        return true;
+    } catch (...) {
+        erro_impressao();
+        return false;
+    }
 }
 
 void erro_impressao() {

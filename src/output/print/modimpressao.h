@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 namespace platform {
 class printer;
 }
@@ -46,6 +48,23 @@ void linha_entrada(platform::printer& p, const QStringList& campos);
 void linha_bancario(platform::printer& p, const QStringList& campos);
 // "Estatísticas", the totals between rules, and the common foot. Does not end the job.
 void estatisticas(platform::printer& p, const QString& totais);
+
+// A rule of the character from the left edge: to the width of the page, or of n characters.
+void regua(platform::printer& p, const QString& ch);
+void regua(platform::printer& p, const QString& ch, int n);
+// The common foot: "Gerado …", an empty line, nome, slogan.
+void rodape_comum(platform::printer& p);
+
+// A heading and its text (the text may hold line breaks) in a closing statistics block.
+struct bloco {
+    QString titulo;
+    QString texto;
+};
+// A print of the page head and a closing block alone: "Estatísticas", a rule, an empty line, each
+// heading with its text, a rule and the common foot (the integrated report). Failures show the
+// "Erro" box. True when the job went out.
+bool imprimir_blocos(cabecalho c, const QString& titulo, const QString& subtitulo,
+                     const std::vector<bloco>& blocos);
 
 // The print of frmmovimento: one job with the page head of the list's kind, every row, the
 // closing block. Failures show the "Erro" box. True when the job went out.
