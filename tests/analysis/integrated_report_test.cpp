@@ -1,0 +1,305 @@
+// The integrated report: the statements and account lines its filters make, the rows and totals
+// they find, and the generator and result windows with their files and print.
+
+#include "analysis/integrated_report.h"
+#include "analysis/ui/frmgeradorret.h"
+#include "analysis/ui/frmrelatorioint.h"
+#include "entries/window_fixture.h"
+#include "platform/print/printer.h"
+#include "registers/ui/frmgeradorad.h"
+
+#include <QFile>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QRadioButton>
+
+using namespace Qt::StringLiterals;
+using analysis::estatus_filtro;
+using analysis::filtros_pagina;
+
+static void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
+
+namespace {
+
+const QDate primeiro(2026, 11, 1), ultimo(2026, 11, 30);
+
+QString golden(const QString& name) {
+    QFile f(QStringLiteral(QUINTARA_TEST_DATA_DIR "/analysis/") + name);
+    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : u"missing golden file "_s + name;
+}
+
+QString read_file(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
+TEST(integrated_statements, filters_become_clauses_and_account_lines) {
+    filtros_pagina nada;
+    filtros_pagina pagar{true, primeiro,    ultimo,         true,  true, {u"A"_s, u"B"_s},
+                         true, {u"Itaú"_s}, {u"Aluguel"_s}, false, {},   estatus_filtro::pendente};
+    filtros_pagina receber = nada;
+    receber.estatus = estatus_filtro::concluido;
+    filtros_pagina vazia = nada;
+    vazia.por_contato = true; // a ticked box over an empty list
+    filtros_pagina banco{true,
+                         primeiro,
+                         ultimo,
+                         false,
+                         false,
+                         {},
+                         true,
+                         {u"X"_s, u"Y"_s},
+                         {},
+                         true,
+                         {u"Z"_s, u"W"_s},
+                         estatus_filtro::concluido};
+    const struct {
+        analysis::clausula c;
+        const char* consulta;
+        const char* relato;
+    } cases[] = {
+        {analysis::despesas(nada),
+         "SELECT * FROM [pagar] WHERE [data] like ('%%') AND ([fornecedor] like ('%%')) AND ([origem] like "
+         "('%%')) AND ([descricao] like ('%%')) AND [estatus] like ('%%')",
+         "Datas incluídas: Todas, não filtrada.\r\nFornecedores Incluídos: Todos, não filtrado.\r\nConta "
+         "origem "
+         "incluídas: Todas, não filtrada.\r\nCentro de custos incluídos: Todos, não filtrado.\r\nEstatus: "
+         "Pendentes e Conluídos\r\n"},
+        // the centres filter by their list alone, the box unticked
+        {analysis::despesas(pagar),
+         "SELECT * FROM [pagar] WHERE [vencimento] BETWEEN ('2026/11/01') AND ('2026/11/30') AND "
+         "([fornecedor] "
+         "like ('A') OR [fornecedor] like ('B')) AND ([origem] like ('Itaú')) AND ([descricao] like "
+         "('Aluguel')) AND [estatus] like ('Pendente')",
+         "Datas incluídas: 01/11/2026 à 30/11/2026\r\nFornecedores Incluídos: A, B\r\nConta origem "
+         "incluídas: "
+         "Itaú\r\nCentro de custos incluídos: Aluguel\r\nEstatus: Apenas pendentes\r\n"},
+        {analysis::receitas(receber),
+         "SELECT * FROM [receber] WHERE [data] like ('%%') AND ([cliente] like ('%%')) AND ([origem] like "
+         "('%%')) AND ([descricao] like ('%%')) AND [estatus] like ('Conluído')",
+         "Datas incluídas: Todas, não filtrada.\r\nclientes Incluídos: Todos, não filtrado.\r\nConta origem "
+         "incluídas: Todas, não filtrada.\r\nCentro de lucros incluídos: Todos, não filtrado.\r\nEstatus: "
+         "Apenas "
+         "conluídos\r\n"},
+        {analysis::despesas(vazia),
+         "SELECT * FROM [pagar] WHERE [data] like ('%%') AND ([fornecedor] like ) AND ([origem] like ('%%')) "
+         "AND "
+         "([descricao] like ('%%')) AND [estatus] like ('%%')",
+         "Datas incluídas: Todas, não filtrada.\r\n\r\nConta origem incluídas: Todas, não "
+         "filtrada.\r\nCentro de "
+         "custos incluídos: Todos, não filtrado.\r\nEstatus: Pendentes e Conluídos\r\n"},
+        {analysis::bancarios(nada),
+         "SELECT * FROM [bancario] WHERE [data] like '%%'  AND ([origem] like '%%') AND ([destino] like "
+         "'%%') AND "
+         "[estatus] like '%%'",
+         "Datas incluídas: Todas, não filtrada.\r\nConta origem incluídas: Todas, não filtrada.\r\nConta "
+         "destino "
+         "incluídas: Todas, não filtrado.\r\nEstatus: Pendentes e Conluídos\r\n"},
+        {analysis::bancarios(banco),
+         "SELECT * FROM [bancario] WHERE [data] BETWEEN '2026/11/01' AND '2026/11/30'  AND ([origem] like "
+         "'X' OR "
+         "[origem] like 'Y') AND ([destino] like 'Z' OR [destino] like ('W')) AND [estatus] like 'Conluído'",
+         "Datas incluídas: 01/11/2026 à 30/11/2026\r\nConta origem incluídas: X, Y\r\nContas destino "
+         "incluídas: "
+         "Z, W\r\nEstatus: Apenas conluídos\r\n"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(c.c.consulta, QString::fromUtf8(c.consulta));
+        EXPECT_EQ(c.c.relato, QString::fromUtf8(c.relato));
+    }
+}
+
+class integrated : public support::window_fixture {
+protected:
+    void SetUp() override {
+        window_fixture::SetUp();
+        platform::set_print_destination(&pdf_);
+        conta(u"Itaú"_s, u"0,00"_s);
+        conta(u"Caixa"_s, u"0,00"_s);
+        const char* entradas[] = {
+            "pagar (estatus, origem, fornecedor, data, descricao, documento, Valor, vencimento, moeda) "
+            "VALUES "
+            "('Pendente', 'Itaú', 'Imobiliária Sol', '2026/11/05', 'Aluguel', 'NF 1 ', '1.200,00', "
+            "'2026/11/10', "
+            "'R$')",
+            "pagar (estatus, origem, fornecedor, data, descricao, documento, Valor, vencimento, moeda) "
+            "VALUES "
+            "('Concluído', 'Caixa', 'Light', '2026/11/02', 'Energia', ' ', '150,5', '23/11/2026', 'R$')",
+            "receber (estatus, origem, cliente, data, descricao, documento, Valor, vencimento, moeda) VALUES "
+            "('Concluído', 'Itaú', 'Cliente A', '2026/11/03', 'Vendas', 'R1 ', '2.000,00', '2026/11/03', "
+            "'R$')",
+            "receber (estatus, origem, cliente, data, descricao, documento, Valor, vencimento, moeda) VALUES "
+            "('Pendente', 'Caixa', 'Cliente B', '2026/11/20', 'Serviços', ' ', '300', '2026/12/20', 'US$')",
+            "bancario (estatus, origem, destino, data, movimento, Valor) VALUES ('Concluído', 'Itaú', "
+            "'Caixa', "
+            "'2026/11/04', 'Transferência entre contas', '500,00')",
+            "bancario (estatus, origem, destino, data, movimento, Valor) VALUES ('Pendente', 'Caixa', ' - ', "
+            "'2026/11/06', 'Depósito', '80,00')",
+            "bancario (estatus, origem, destino, data, movimento, Valor) VALUES ('Concluído', 'Caixa', "
+            "'Itaú', "
+            "'2026/11/07', 'transferência entre contas', '20,00')",
+        };
+        for (const char* e : entradas)
+            exec(u"INSERT INTO "_s + QString::fromUtf8(e));
+    }
+    void TearDown() override {
+        delete frmgeradorret::aberto();
+        delete frmrelatorioint::aberto();
+        delete frmgeradorad::aberto();
+        platform::set_print_destination(nullptr);
+        window_fixture::TearDown();
+    }
+    static analysis::filtros_integrados todos() {
+        analysis::filtros_integrados f;
+        f.pagar = f.receber = f.bancario = true;
+        return f;
+    }
+    platform::pdf_target pdf_{path(u"integrado.pdf"_s)};
+};
+
+const QStringList aluguel = {u"05/11/2026"_s,      u"Aluguel"_s,     u"NF 1 "_s,
+                             u"Imobiliária Sol"_s, u"R$ 1.200,00"_s, u"10/11/2026"_s,
+                             u"Pendente"_s,        u"Itaú"_s,        u"DÉBITO"_s};
+const QStringList energia = {u"02/11/2026"_s, u"Energia"_s,   u" "_s,     u"Light"_s, u"R$ 150,50"_s,
+                             u"23/11/2026"_s, u"Concluído"_s, u"Caixa"_s, u"DÉBITO"_s};
+const QStringList vendas = {u"03/11/2026"_s, u"Vendas"_s,    u"R1 "_s,  u"Cliente A"_s, u"R$ 2.000,00"_s,
+                            u"03/11/2026"_s, u"Concluído"_s, u"Itaú"_s, u"CRÉDITO"_s};
+const QStringList servicos = {u"20/11/2026"_s, u"Serviços"_s, u" "_s,     u"Cliente B"_s, u"US$ 300,00"_s,
+                              u"20/12/2026"_s, u"Pendente"_s, u"Caixa"_s, u"CRÉDITO"_s};
+// only the word written in lower case joins the two accounts
+const std::vector<QStringList> movimentos = {
+    {u"04/11/2026"_s, u"Transferência entre contas"_s, u"-"_s, u"-"_s, u"500,00"_s, u"-"_s, u"Concluído"_s,
+     u"Itaú"_s, u"Movimento Bancário"_s},
+    {u"06/11/2026"_s, u"Depósito"_s, u"-"_s, u"-"_s, u"80,00"_s, u"-"_s, u"Pendente"_s, u"Caixa"_s,
+     u"Movimento Bancário"_s},
+    {u"07/11/2026"_s, u"transferência entre contas"_s, u"-"_s, u"-"_s, u"20,00"_s, u"-"_s, u"Concluído"_s,
+     u"Caixa / Itaú"_s, u"Movimento Bancário"_s}};
+
+TEST_F(integrated, rows_and_totals_of_each_ledger_in_order) {
+    analysis::relatorio_integrado r = analysis::gerar(todos());
+    std::vector<QStringList> esperado = {aluguel, energia, vendas, servicos};
+    esperado.insert(esperado.end(), movimentos.begin(), movimentos.end());
+    EXPECT_EQ(r.linhas, esperado);
+    EXPECT_EQ(
+        r.txtfinanceiro,
+        u"Total de despesa: R$ 1.350,50\r\nTotal de receitas: R$ 2.300,00\r\nTotal bancário: R$ 600,00\r\n"_s);
+
+    // "Apenas Concluído" finds the settled expense, and nothing on the two misspelt pages
+    analysis::filtros_integrados f = todos();
+    f.p.estatus = f.r.estatus = f.b.estatus = estatus_filtro::concluido;
+    r = analysis::gerar(f);
+    EXPECT_EQ(r.linhas, std::vector<QStringList>{energia});
+    EXPECT_EQ(r.txtfinanceiro,
+              u"Total de despesa: R$ 150,50\r\nTotal de receitas: R$ 0,00\r\nTotal bancário: R$ 0,00\r\n"_s);
+
+    // a ticked box over an empty list, and a quote in a name: that ledger's rows and total are missing
+    f = todos();
+    f.p.por_contato = true;
+    f.r.por_contato = true;
+    f.r.contatos = {u"D'Ávila"_s};
+    f.b.estatus = estatus_filtro::pendente;
+    r = analysis::gerar(f);
+    EXPECT_EQ(r.linhas, std::vector<QStringList>{movimentos[1]});
+    EXPECT_EQ(r.txtfinanceiro, u"Total bancário: R$ 80,00\r\n"_s);
+    EXPECT_TRUE(r.txtpagar.startsWith(u"Datas incluídas: Todas, não filtrada.\r\n\r\nConta origem"_s));
+    EXPECT_TRUE(r.txtreceber.contains(u"\r\nClientes Incluídos: D'Ávila\r\n"_s));
+
+    // nothing included
+    r = analysis::gerar({});
+    EXPECT_TRUE(r.linhas.empty());
+    EXPECT_EQ(r.txtpagar, u"Contas a pagar - débitos, não incluído no relatório!"_s);
+    EXPECT_EQ(r.txtreceber, u"Contas a receber - créditos, não incluído no relatório!"_s);
+    EXPECT_EQ(r.txtbancario, u"Movimento bancário, não incluído no relatório!"_s);
+    EXPECT_TRUE(r.txtfinanceiro.isEmpty());
+}
+
+TEST_F(integrated, generator_window_chooser_result_files_and_print) {
+    QAction* menu = p->findChild<QAction*>(u"mnuretint"_s);
+    ASSERT_TRUE(menu && menu->isEnabled());
+    menu->trigger();
+    frmgeradorret* g = frmgeradorret::aberto();
+    ASSERT_TRUE(g && g->isVisible());
+    EXPECT_EQ(g->windowTitle(), u"Gerador de relatórios - Integrados"_s);
+    EXPECT_FALSE(g->lstfornecedor->isEnabled());
+    EXPECT_FALSE(g->cbodata1p->isEnabled());
+    g->chkfornecedor->setChecked(true);
+    g->chkdatap->setChecked(true);
+    EXPECT_TRUE(g->lstfornecedor->isEnabled());
+    EXPECT_TRUE(g->cbodata1p->isEnabled() && g->cbodata2p->isEnabled());
+    g->cbodata1p->set_date(primeiro);
+    g->cbodata2p->set_date(ultimo);
+    nomes(u"fornecedor"_s, u"nome"_s, {u"Imobiliária Sol"_s, u"Light"_s});
+
+    g->cmdfornecedor->click();
+    frmgeradorad* a = frmgeradorad::aberto();
+    ASSERT_TRUE(a && a->isVisible());
+    EXPECT_EQ(a->windowTitle(), u"Adicionado fornecedor a lista"_s);
+    EXPECT_EQ(a->lbltitulo->text(), u"Adicionando um novo fornecedor a lista"_s);
+    EXPECT_EQ(a->cbolista->currentText(), u"Imobiliária Sol"_s);
+    a->cmdadicionar->click();
+    g->cmdorigemb->click();
+    a = frmgeradorad::aberto();
+    EXPECT_EQ(a->lbltitulo->text(), u"Adicionando uma nova origem destino a lista"_s);
+    a->cbolista->setEditText(u"Caixa"_s);
+    a->cmdadicionar->click();
+    g->cmdlimparorigemb->click(); // cleared again
+    EXPECT_EQ(g->lstorigemb->count(), 0);
+    EXPECT_EQ(g->lstfornecedor->count(), 1);
+    g->optconcluidor->setChecked(true);
+    g->cmdnatela->click();
+
+    frmrelatorioint* r = frmrelatorioint::aberto();
+    ASSERT_TRUE(r && r->isVisible());
+    EXPECT_EQ(frmgeradorret::aberto(), nullptr);
+    EXPECT_EQ(r->windowTitle(), u"Relatório - Integrado"_s);
+    std::vector<QStringList> esperado = {aluguel};
+    esperado.insert(esperado.end(), movimentos.begin(), movimentos.end());
+    EXPECT_EQ(list_rows(r->lstrelatorio), esperado);
+    EXPECT_EQ(r->txtfinanceiro->toPlainText(),
+              u"Total de despesa: R$ 1.200,00\nTotal de receitas: R$ 0,00\nTotal bancário: R$ 600,00\n"_s);
+
+    const struct {
+        QPushButton* botao;
+        const char* titulo;
+        const char* filtro;
+        const char* arquivo;
+    } saidas[] = {
+        {r->cmdtxt, "Salvar relatório em txt", "Arquivos de Texto(*.txt)|*.txt", "relatorio_integrado.txt"},
+        {r->cmdhtml, "Salvar relatório integrado em html", "Arquivos HTML(*.html)|*.html",
+         "relatorio_integrado.html"}};
+    for (const auto& s : saidas) {
+        prompts_.clear();
+        const QString arquivo = path(QString::fromUtf8(s.arquivo));
+        prompts_.answer_text(arquivo);
+        s.botao->click();
+        ASSERT_EQ(prompts_.records().size(), 2u);
+        EXPECT_EQ(prompts_.records()[0].title, QString::fromUtf8(s.titulo));
+        EXPECT_EQ(prompts_.records()[0].filter, QString::fromUtf8(s.filtro));
+        EXPECT_EQ(prompts_.records()[1].title, u"Visualizar"_s);
+        EXPECT_EQ(read_file(arquivo), golden(QString::fromUtf8(s.arquivo))) << s.arquivo;
+    }
+
+    r->cmdimprimir->click();
+    QProcess pr;
+    pr.start(u"pdftotext"_s, {u"-layout"_s, pdf_.path(), u"-"_s});
+    pr.waitForFinished(60000);
+    QStringList impresso;
+    for (const QString& l : QString::fromUtf8(pr.readAllStandardOutput()).split(u'\n'))
+        if (!l.trimmed().isEmpty() && !l.contains(u"_____"_s) && !l.contains(u"-----"_s))
+            impresso << l.simplified();
+    const QString pagar = r->relatorio().txtpagar.trimmed().replace(u"\r\n"_s, u"\n"_s);
+    QStringList esperado_impresso = {
+        u"RELATÓRIO INTEGRADO"_s, u"Contas a pagar, receber e movimento bancário"_s,
+        u"VENC. DESCRIÇÃO DOC. FORNECEDOR/CLIENTE"_s, u"Estatísticas"_s, u"CONTAS A PAGAR - DESPESA"_s};
+    esperado_impresso << pagar.split(u'\n') << u"CONTAS A RECEBER - RECEITAS"_s;
+    EXPECT_EQ(impresso.mid(0, esperado_impresso.size()), esperado_impresso);
+    EXPECT_TRUE(impresso.contains(u"DADOS FINANCEIROS"_s));
+    EXPECT_TRUE(impresso.contains(u"Total bancário: R$ 600,00"_s));
+    EXPECT_TRUE(impresso.contains(u"Gerado segunda-feira, 23 de novembro de 2026 às 10:00:00"_s));
+    EXPECT_TRUE(impresso.contains(u"QUINTARA - Página: 1"_s));
+}
+
+} // namespace
