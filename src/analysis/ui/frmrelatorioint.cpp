@@ -119,7 +119,10 @@ void frmrelatorioint::montar() {
     v->addWidget(XTab1, 1);
     v->addWidget(barraprogresso);
     v->addLayout(botoes);
-    resize(list_view::twips_to_pixels(12500, this), list_view::twips_to_pixels(8200, this));
+}
+
+QSize frmrelatorioint::sizeHint() const {
+    return {list_view::twips_to_pixels(12500, this), list_view::twips_to_pixels(8200, this)};
 }
 
 void frmrelatorioint::mostrar() {

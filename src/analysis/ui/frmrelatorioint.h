@@ -41,6 +41,8 @@ public:
     QProgressBar* barraprogresso;
     QPushButton *cmdimprimir, *cmdtxt, *cmdhtml;
 
+    QSize sizeHint() const override;
+
 protected:
     void closeEvent(QCloseEvent* e) override;
 

@@ -50,7 +50,7 @@ entry_form::entry_form(const QString& name, entries::list_source bank_list, QStr
     cmdbancoinc->setEnabled(shell::find_action(QStringLiteral("frmbanco")) != nullptr);
     cmddescinc->setEnabled(shell::find_action(QStringLiteral("frmcentrocusto")) &&
                            shell::find_action(QStringLiteral("frmcentrolucro")));
-    // an account added by the quick add: the box refilled and showing it
+    // an account or a centre added by a quick add: the box refilled and showing it
     connect(&shell::avisos::instance(), &shell::avisos::cadastrado, this,
             [this](shell::cadastro que, const QString& nome) {
                 if (descarregado_) return;

@@ -82,7 +82,7 @@ centre_window::centre_window(centro c) : QWidget(nullptr, Qt::Window), c_(c) {
     cmdcad = botao("cmdcad", u"&Cadastrar"_s);
     lista = new list_view;
     lista->setObjectName(g.lista);
-    lista->add_column(u"Nome do centro de custo"_s, 4800);
+    lista->add_column(u"Nome do centro de custo"_s, 7000);
     cmdremover = botao("cmdremover", u"&Remover"_s);
     cmdeditar = botao("cmdeditar", u"&Editar"_s);
     cbodata1 = named(new date_field, "cbodata1");
@@ -92,9 +92,9 @@ centre_window::centre_window(centro c) : QWidget(nullptr, Qt::Window), c_(c) {
     // the profit twin keeps these headings
     lstplanos->add_column(u"ID"_s, 500, list_view::tag_number);
     lstplanos->add_column(u"Centro de custo"_s, 2800);
-    lstplanos->add_column(u"Pendentes"_s, 2000);
-    lstplanos->add_column(u"Pagas"_s, 2000);
-    lstplanos->add_column(u"Total"_s, 2000);
+    lstplanos->add_column(u"Pendentes"_s, 2200);
+    lstplanos->add_column(u"Pagas"_s, 2200);
+    lstplanos->add_column(u"Total"_s, 2200);
     lblgeral = named(new QLabel, "lblgeral");
     lblgeral->setWordWrap(true);
     cmdimprimir = botao("cmdimprimir", u"&Imprimir"_s);
@@ -168,7 +168,10 @@ void centre_window::montar() {
     auto* outer = new QVBoxLayout(this);
     outer->addWidget(XTab1);
     install_field_conduct_all(this);
-    resize(list_view::twips_to_pixels(10500, this), list_view::twips_to_pixels(7000, this));
+}
+
+QSize centre_window::sizeHint() const {
+    return {list_view::twips_to_pixels(11500, this), list_view::twips_to_pixels(7500, this)};
 }
 
 void centre_window::mostrar() {

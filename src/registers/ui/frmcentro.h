@@ -53,6 +53,8 @@ public:
     QPushButton* cmdhtml;
     QProgressBar* barraprogresso;
 
+    QSize sizeHint() const override;
+
 protected:
     explicit centre_window(registers::centro c);
     void closeEvent(QCloseEvent* e) override;

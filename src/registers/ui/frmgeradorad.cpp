@@ -41,7 +41,7 @@ frmgeradorad::frmgeradorad() : QWidget(nullptr, Qt::Window) {
     v->addWidget(lbltitulo);
     v->addLayout(linha);
     install_field_conduct_all(this);
-    resize(420, sizeHint().height());
+    setMinimumWidth(440);
     // opening: on top of the others
     sempretopo(u"ativo"_s, this);
 }
