@@ -136,6 +136,14 @@ void somar(vb::currency& total, const QString& valor) {
     }
 }
 
+// "R$ 1.234,56" in one allocation.
+QString com_moeda(const QString& moeda, const QString& valor) {
+    QString s;
+    s.reserve(moeda.size() + 1 + valor.size());
+    s.append(moeda).append(QLatin1Char(' ')).append(valor);
+    return s;
+}
+
 QString campo(const sql::recordset& rs, int i) {
     return i < 0 ? QString() : rs.text(i);
 }
@@ -202,7 +210,8 @@ linhas_razao ler_linhas(razao r, const QString& consulta) {
     const auto at = [&rs](const QString& name) { return rs.index_of(name); };
     const int i_data = at(store::coluna::data), i_valor = at(store::coluna::valor),
               i_estatus = at(store::coluna::estatus), i_origem = at(store::coluna::origem);
-    memo datas, valores;
+    // amounts are nearly all distinct: only the dates are worth remembering
+    memo datas;
     out.linhas.reserve(std::size_t(rs.record_count()));
     if (r == razao::bancario) {
         const int i_movimento = at(store::coluna::movimento), i_destino = at(store::coluna::destino);
@@ -214,7 +223,7 @@ linhas_razao ler_linhas(razao r, const QString& consulta) {
             // compared as written: the stored word begins with a capital and never equals it
             if (movimento == u"transferência entre contas"_s) conta += u" / "_s + campo(rs, i_destino);
             out.linhas.push_back({datas.get(campo(rs, i_data), shell::display_date), movimento, hifen, hifen,
-                                  valores.get(valor, valor_texto), hifen, campo(rs, i_estatus), conta,
+                                  valor_texto(valor), hifen, campo(rs, i_estatus), conta,
                                   u"Movimento Bancário"_s});
             somar(out.soma, valor);
         }
@@ -229,7 +238,7 @@ linhas_razao ler_linhas(razao r, const QString& consulta) {
         const QString valor = campo(rs, i_valor);
         out.linhas.push_back({datas.get(campo(rs, i_data), shell::display_date), campo(rs, i_descricao),
                               campo(rs, i_documento), campo(rs, i_contato),
-                              campo(rs, i_moeda) + u" "_s + valores.get(valor, valor_texto),
+                              com_moeda(campo(rs, i_moeda), valor_texto(valor)),
                               datas.get(campo(rs, i_vencimento), shell::display_date), campo(rs, i_estatus),
                               campo(rs, i_origem), tipo});
         somar(out.soma, valor);
