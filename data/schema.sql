@@ -142,3 +142,10 @@ CREATE INDEX pagar_origem_dobrada ON pagar (quintara_fold(origem), quintara_fold
 CREATE INDEX receber_origem_dobrada ON receber (quintara_fold(origem), quintara_fold(estatus));
 CREATE INDEX bancario_origem_dobrada ON bancario (quintara_fold(origem), quintara_fold(estatus), quintara_fold(movimento));
 CREATE INDEX bancario_destino_dobrada ON bancario (quintara_fold(destino), quintara_fold(estatus), quintara_fold(movimento));
+
+-- The statistics by supplier, client and centre look each one's entries up by its name, folded
+-- the same way.
+CREATE INDEX pagar_fornecedor_dobrado ON pagar (quintara_fold(fornecedor));
+CREATE INDEX receber_cliente_dobrado ON receber (quintara_fold(cliente));
+CREATE INDEX pagar_descricao_dobrada ON pagar (quintara_fold(descricao));
+CREATE INDEX receber_descricao_dobrada ON receber (quintara_fold(descricao));

@@ -33,7 +33,7 @@ bar_chart::bar_chart(QWidget* parent) : QChartView(parent) {
     series->attachAxis(valores_);
     setChart(c);
     setRenderHint(QPainter::Antialiasing);
-    setMinimumSize(360, 240);
+    setMinimumSize(560, 340);
     ajustar_eixo();
 }
 
@@ -85,10 +85,22 @@ void bar_chart::ajustar_eixo() {
         lo = std::min(lo, set_->at(i));
         hi = std::max(hi, set_->at(i));
     }
-    // room above the tallest bar for its label; a whole-number axis for counts
-    const double folga = std::max(1.0, std::ceil((hi - lo) * 0.15));
-    valores_->setRange(lo < 0 ? lo - folga : 0, hi + folga);
-    valores_->applyNiceNumbers();
+    // a round step of 1, 2 or 5 times a power of ten, about five steps, room above the tallest bar
+    // for its label; a whole-number axis for counts
+    const double alcance = std::max(1.0, (hi - lo) * 1.15);
+    const double bruto = alcance / 5;
+    const double potencia = std::pow(10.0, std::floor(std::log10(bruto)));
+    double passo = potencia;
+    for (double m : {1.0, 2.0, 5.0, 10.0})
+        if (m * potencia >= bruto) {
+            passo = m * potencia;
+            break;
+        }
+    passo = std::max(1.0, passo);
+    const double baixo = lo < 0 ? std::floor(lo * 1.15 / passo) * passo : 0;
+    const double alto = std::max(passo, std::ceil(hi * 1.15 / passo) * passo);
+    valores_->setRange(baixo, alto);
+    valores_->setTickCount(int(std::lround((alto - baixo) / passo)) + 1);
 }
 
 QImage bar_chart::picture(double scale) const {

@@ -17,7 +17,9 @@
 #include "shell/principal_api.h"
 #include "store/config.h"
 
+#include <QApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QProgressBar>
 
 #include <optional>
@@ -27,6 +29,22 @@ namespace analysis {
 namespace {
 
 using shell::ledger;
+
+// The report windows keep the size they were made with (show_form would fit them to their hint);
+// the first time they come over the middle of the window the user was in.
+void trazer(QWidget* w) {
+    if (!w->isVisible() && !w->property("quintara_placed").toBool()) {
+        QWidget* sobre = QApplication::activeWindow();
+        QRect area = sobre && sobre != w ? sobre->frameGeometry() : QRect();
+        if (!area.isValid())
+            if (const QScreen* tela = QGuiApplication::primaryScreen()) area = tela->availableGeometry();
+        if (area.isValid()) w->move(area.center() - QPoint(w->width() / 2, w->height() / 2));
+        w->setProperty("quintara_placed", true);
+    }
+    w->show();
+    w->raise();
+    w->activateWindow();
+}
 
 void sem_dados(const QString& texto) {
     platform::msgbox(texto, platform::exclamation, QStringLiteral("Info"));
@@ -39,7 +57,7 @@ void movimento(const membro& m) {
                                                      : frmmovimento::lista::movimento;
     w->setWindowTitle(m.caption);
     w->mostrar_lista(lista);
-    show_form(w);
+    trazer(w);
     if (m.tabela == ledger::bancario) {
         // read as a number and not used
         (void)store::setting(store::secao_config, QStringLiteral("VisualizarDadosBancario"),
@@ -83,7 +101,7 @@ void relatorio(const membro& m) {
     w->preencher(
         lista, std::move(r.linhas),
         {m.caption, tipo_relatorio(m.tabela), linha_periodo(m, agora), linha_totais(m, r.tally, agora)});
-    show_form(w);
+    trazer(w);
 }
 
 void grafico(const membro& m) {
@@ -161,7 +179,7 @@ void executar_estatistica_cadastro(const estatistica_cadastro& e) {
                            : e.lista == lista_cadastro::fornecedores ? frmestforncli::lista::fornecedor
                                                                      : frmestforncli::lista::planos;
         w->preencher(lista, std::move(r.linhas), e.caption, r.geral);
-        show_form(w);
+        trazer(w);
     });
 }
 
@@ -180,7 +198,7 @@ void relatorio_contatos(bool clientes) {
              clientes ? QStringLiteral("CLIENTES") : QStringLiteral("FORNECEDORES"),
              QStringLiteral("........................."),
              QStringLiteral("Total de clientes cadastrados: ") + QString::number(n)});
-        show_form(w);
+        trazer(w);
     });
 }
 
