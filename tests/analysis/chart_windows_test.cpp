@@ -2,6 +2,7 @@
 // from the PDF.
 
 #include "analysis/ui/frmconfgrafico.h"
+#include "analysis/ui/period_boxes.h"
 #include "analysis/ui/frmgrafico.h"
 #include "analysis_fixture.h"
 #include "platform/print/printer.h"
@@ -10,6 +11,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
@@ -171,4 +174,23 @@ TEST_F(chart_windows, the_printed_page_holds_the_picture_then_the_figures) {
     imagens.waitForFinished(60000);
     EXPECT_EQ(QString::fromUtf8(imagens.readAllStandardOutput()).count(u" image "_s), 1);
     EXPECT_TRUE(prompts_.boxes().empty());
+}
+
+TEST_F(chart_windows, month_and_year_boxes_are_picked_from_and_read_back_as_a_date) {
+    std::unique_ptr<QComboBox> mes(analysis::caixa_meses("cbomes1", true));
+    std::unique_ptr<QComboBox> ano(analysis::caixa_anos("cboano1"));
+    EXPECT_EQ(mes->count(), 12);
+    EXPECT_EQ(mes->itemText(6), u"julho"_s);
+    EXPECT_EQ(ano->count(), 151);
+    EXPECT_EQ(ano->itemText(150), u"2150"_s);
+    analysis::mostrar_mes(mes.get(), QDate(2026, 11, 23));
+    analysis::mostrar_ano(ano.get(), QDate(2026, 11, 23));
+    EXPECT_EQ(mes->currentText(), u"novembro"_s);
+    EXPECT_EQ(analysis::data_das_caixas(mes.get(), ano.get()), QDate(2026, 11, 1));
+    // typing is swallowed
+    QKeyEvent tecla(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, u"x"_s);
+    QCoreApplication::sendEvent(mes->lineEdit(), &tecla);
+    EXPECT_EQ(mes->currentText(), u"novembro"_s);
+    mes->setCurrentIndex(6);
+    EXPECT_EQ(analysis::data_das_caixas(mes.get(), ano.get()), QDate(2026, 7, 1));
 }
