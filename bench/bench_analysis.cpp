@@ -3,9 +3,9 @@
 // (offscreen). Message boxes answer at once (scripted). Windows are closed between rounds.
 #include "analysis/period_summary.h"
 #include "analysis/register_summary.h"
+#include "analysis/ui/actions.h"
 #include "analysis/ui/frmconfgrafico.h"
 #include "analysis/ui/frmgrafico.h"
-#include "analysis/ui/actions.h"
 #include "generator/data_generator.h"
 #include "platform/clock.h"
 #include "platform/print/printer.h"
@@ -105,9 +105,10 @@ int main(int argc, char** argv) {
     QElapsedTimer t;
     t.start();
     const generator::summary s = generator::fill_file(file, o);
-    std::printf("file: %d expenses, %d income, %d movements, %d suppliers, %d clients, %d + %d centres (%.1f s)\n",
-                s.despesas, s.receitas, s.movimentos, s.fornecedores, s.clientes, s.centros_custo, s.centros_lucro,
-                t.elapsed() / 1000.0);
+    std::printf(
+        "file: %d expenses, %d income, %d movements, %d suppliers, %d clients, %d + %d centres (%.1f s)\n",
+        s.despesas, s.receitas, s.movimentos, s.fornecedores, s.clientes, s.centros_custo, s.centros_lucro,
+        t.elapsed() / 1000.0);
     analysis::register_actions();
 
     QStringList itens;
@@ -115,7 +116,8 @@ int main(int argc, char** argv) {
         itens << m.nome;
     for (const analysis::estatistica_cadastro& e : analysis::estatisticas_cadastro())
         itens << e.nome;
-    itens << QStringLiteral("mnuretcliente") << QStringLiteral("mnuretfornecedor") << QStringLiteral("mnuestsoftware");
+    itens << QStringLiteral("mnuretcliente") << QStringLiteral("mnuretfornecedor")
+          << QStringLiteral("mnuestsoftware");
     for (const QString& i : itens)
         benchmark::RegisterBenchmark(i.toStdString().c_str(), [i](benchmark::State& st) { BM_member(st, i); })
             ->Unit(benchmark::kMillisecond)

@@ -1,5 +1,6 @@
 #include "analysis/chart_filter.h"
 
+#include "platform/errors.h"
 #include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
 #include "store/conexao.h"
@@ -21,16 +22,16 @@ std::optional<QString> inicio(const QString& tabela, const criterios_grafico& c)
            like_contem(QStringLiteral("estatus"), estatus_palavra(c), true);
 }
 
+// A statement that fails sums nothing.
 double somar(const QString& consulta) {
     double total = 0;
-    try {
+    platform::ignore_errors([&] {
         sql::recordset rs;
         rs.open(consulta, store::conexao);
         const int i = rs.index_of(store::coluna::valor);
         for (; !rs.eof(); rs.move_next())
             if (const auto v = valor_formatado(i < 0 ? QString() : rs.text(i))) total += v->to_double();
-    } catch (const std::exception&) {
-    }
+    });
     return total;
 }
 
@@ -101,10 +102,7 @@ palavras_grafico palavras_de(painel_grafico p) {
 
 despesas_receitas somar_despesas_receitas(const QString& consulta_pagar, const QString& consulta_receber) {
     despesas_receitas d;
-    try {
-        store::conectarbanco();
-    } catch (const std::exception&) {
-    }
+    platform::ignore_errors([] { store::conectarbanco(); });
     d.despesas = somar(consulta_pagar);
     d.receitas = somar(consulta_receber);
     return d;

@@ -1,5 +1,6 @@
 #include "analysis/filter_kit.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
@@ -23,15 +24,14 @@ std::optional<clausula_datas> clausula_entre_datas(bool marcado, const QDate& in
 
 QStringList valores_da_consulta(const QString& consulta, const QString& coluna) {
     QStringList out;
-    try {
+    platform::ignore_errors([&] {
         store::conectarbanco();
         sql::recordset rs;
         rs.open(consulta, store::conexao);
         const int i = rs.index_of(coluna);
         for (; !rs.eof(); rs.move_next())
             out << (i < 0 ? QString() : rs.text(i));
-    } catch (const std::exception&) {
-    }
+    });
     return out;
 }
 

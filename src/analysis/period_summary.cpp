@@ -1,12 +1,11 @@
 #include "analysis/period_summary.h"
 
+#include "platform/errors.h"
 #include "platform/text/vb_text.h"
 #include "shell/ledger_load.h"
 #include "shell/list_actions.h"
 #include "store/conexao.h"
 #include "store/config.h"
-
-#include <QHash>
 
 namespace analysis {
 
@@ -246,12 +245,13 @@ lista_lida ler_lista(const membro& m, const QString& consulta, const std::functi
                      const std::function<void(long)>& a_cada) {
     lista_lida out;
     sql::recordset rs;
-    try {
+    bool aberta = false;
+    platform::ignore_errors([&] {
         store::conectarbanco();
         rs.open(consulta, store::conexao);
-    } catch (const std::exception&) {
-        return out;
-    }
+        aberta = true;
+    });
+    if (!aberta) return out;
     const long n = rs.record_count();
     if (n == 0) return out;
     out.vazio = false;
@@ -373,18 +373,17 @@ figuras figuras_de(const status_tally& t) {
 
 contagem contar(const QString& consulta) {
     contagem out;
-    try {
+    platform::ignore_errors([&] {
         store::conectarbanco();
         sql::recordset rs;
         rs.open(consulta, store::conexao);
-        if (rs.record_count() == 0) return out;
+        if (rs.record_count() == 0) return;
         out.vazio = false;
         const int i_valor = rs.index_of(store::coluna::valor);
         const int i_estatus = rs.index_of(store::coluna::estatus);
         for (rs.move_first(); !rs.eof(); rs.move_next())
             out.tally.add(campo(rs, i_estatus), campo(rs, i_valor));
-    } catch (const std::exception&) {
-    }
+    });
     return out;
 }
 

@@ -1,5 +1,6 @@
 #include "analysis/register_summary.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
 #include "shell/ledger_load.h"
@@ -51,15 +52,14 @@ resumo_cadastro resumir_cadastro(const estatistica_cadastro& e, const std::funct
                                  const std::function<void(long)>& a_cada) {
     resumo_cadastro out;
     QStringList nomes;
-    try {
+    platform::ignore_errors([&] {
         store::conectarbanco();
         sql::recordset mestre;
         mestre.open(e.mestre, store::conexao);
         const int i = mestre.index_of(e.coluna_mestre);
         for (; !mestre.eof(); mestre.move_next())
             nomes << (i < 0 ? QString() : mestre.text(i));
-    } catch (const std::exception&) {
-    }
+    });
     if (nomes.isEmpty()) return out;
     out.vazio = false;
     if (antes) antes(nomes.size());
@@ -68,7 +68,8 @@ resumo_cadastro resumir_cadastro(const estatistica_cadastro& e, const std::funct
     for (const QString& nome : nomes) {
         if (a_cada) a_cada(++k);
         status_tally t(classes::exato, soma::moeda);
-        try {
+        // a detail that fails leaves this name's row at zero
+        platform::ignore_errors([&] {
             sql::recordset rs;
             rs.open(consulta_detalhe(e, nome), store::conexao);
             const int i_valor = rs.index_of(store::coluna::valor);
@@ -80,9 +81,7 @@ resumo_cadastro resumir_cadastro(const estatistica_cadastro& e, const std::funct
                 t.add(estatus, v, valor);
                 out.tally.add(estatus, v, valor);
             }
-        } catch (const std::exception&) {
-            // this name's row stays at zero
-        }
+        });
         out.linhas.push_back({nome, celula_contagem(t.n(classe::pendente), t.texto(classe::pendente)),
                               celula_contagem(t.n(classe::concluido), t.texto(classe::concluido)),
                               celula_contagem(t.n(), t.texto_total())});
@@ -96,7 +95,7 @@ resumo_cadastro resumir_cadastro(const estatistica_cadastro& e, const std::funct
 
 lista_contatos ler_contatos(const QString& consulta) {
     lista_contatos out;
-    try {
+    platform::ignore_errors([&] {
         store::conectarbanco();
         sql::recordset rs;
         rs.open(consulta, store::conexao);
@@ -120,8 +119,7 @@ lista_contatos ler_contatos(const QString& consulta) {
             }
             out.linhas.push_back(std::move(r));
         }
-    } catch (const std::exception&) {
-    }
+    });
     out.vazio = out.linhas.empty();
     return out;
 }

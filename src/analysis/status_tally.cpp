@@ -1,5 +1,6 @@
 #include "analysis/status_tally.h"
 
+#include "platform/errors.h"
 #include "store/names.h"
 
 #include <limits>
@@ -34,11 +35,8 @@ classe classificar(const QString& estatus, classes modo) {
 
 std::optional<vb::currency> valor_formatado(const QString& stored) {
     std::optional<vb::currency> c;
-    try {
-        c = vb::ccur(stored);
-    } catch (const vb::overflow_error&) {
-        return std::nullopt;
-    }
+    // a text past the currency's range reads as no amount
+    platform::ignore_errors([&] { c = vb::ccur(stored); });
     if (!c) return std::nullopt;
     const std::int64_t raw = c->raw();
     // at the very edge of the range the rounded text would not read back
@@ -72,12 +70,8 @@ classe status_tally::add(const QString& estatus, const std::optional<vb::currenc
 void status_tally::somar(parcela& p, const std::optional<vb::currency>& formatado, const QString& valor) {
     switch (soma_) {
     case soma::moeda:
-        if (!formatado) return;
-        try {
-            p.moeda += *formatado;
-        } catch (const vb::overflow_error&) {
-            // the old sum skipped an addition that overflowed
-        }
+        // the old sum skipped an addition that overflowed
+        if (formatado) platform::ignore_errors([&] { p.moeda += *formatado; });
         return;
     case soma::dupla:
         if (formatado) p.dupla += formatado->to_double();

@@ -2,8 +2,8 @@
 // from the PDF.
 
 #include "analysis/ui/frmconfgrafico.h"
-#include "analysis/ui/period_boxes.h"
 #include "analysis/ui/frmgrafico.h"
+#include "analysis/ui/period_boxes.h"
 #include "analysis_fixture.h"
 #include "platform/print/printer.h"
 #include "platform/widgets/date_field.h"
@@ -12,8 +12,8 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>

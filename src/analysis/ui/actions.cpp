@@ -13,8 +13,10 @@
 namespace analysis {
 
 void register_actions() {
-    shell::register_action(QStringLiteral("mnuvencpagar"), [] { frmvencimento::instance()->vencimentopagar(); });
-    shell::register_action(QStringLiteral("mnuvencreceber"), [] { frmvencimento::instance()->vencimentoreceber(); });
+    shell::register_action(QStringLiteral("mnuvencpagar"),
+                           [] { frmvencimento::instance()->vencimentopagar(); });
+    shell::register_action(QStringLiteral("mnuvencreceber"),
+                           [] { frmvencimento::instance()->vencimentoreceber(); });
     // the period members by their menu items (mnugralucrosmes runs the month income statistics)
     for (const membro& m : membros()) {
         const QString item = m.nome;

@@ -2,6 +2,7 @@
 
 #include "analysis/period_summary.h"
 #include "analysis/print/chart_print.h"
+#include "platform/errors.h"
 #include "platform/widgets/form_builders.h"
 #include "platform/widgets/single_window.h"
 #include "shell/principal_api.h"
@@ -100,12 +101,11 @@ void frmgrafico::mostrar_figuras(const analysis::figuras& f) {
 
 void frmgrafico::imprimir() {
     analysis::pagina_grafico g;
-    try {
+    platform::ignore_errors([&] {
         g.figura = mgrafico->picture();
         Picture1->setPixmap(QPixmap::fromImage(g.figura));
         g.rotulos = figuras.lines();
-    } catch (...) {
-    }
+    });
     const bool saiu = analysis::imprimir_grafico(g, windowTitle());
     Picture1->clear();
     if (saiu) close();

@@ -19,8 +19,8 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QScreen>
 #include <QProgressBar>
+#include <QScreen>
 
 #include <optional>
 

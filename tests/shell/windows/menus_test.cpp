@@ -52,19 +52,19 @@ TEST_F(menus, every_item_exists_with_its_caption_and_only_working_items_are_enab
     working += {"mnubloquearsoft", "mnuconflogin",  "mnuvencpagar",    "mnuvencreceber", "mnucomp",
                 "mnucal",          "mnuretcompdia", "mnuretcompgeral", "mnuretcompmes"};
     // the period summaries, charts and statistics
-    working += {"mnudiapagar",         "mnudiareceber",       "mnudibancario",       "mnumespagar",
-                "mnumesreceber",       "mnumesbancario",      "mnuanualpagar",       "mnuanualreceber",
-                "mnuanualbancario",    "mnuretdiadesp",       "mnuretdialucros",     "mnuretdiabancario",
-                "mnuretmesdespesas",   "mnuretmeslucros",     "mnuretmesbancario",   "mnuretanualdespesas",
-                "mnuretanolucros",     "mnuretanualbancario", "mnugradiadesp",       "mnugralucrosdia",
-                "mnugrabancdia",       "mnugradespmes",       "mnugralucrosmes",     "mnugrabancmes",
-                "mnugraanualdesp",     "mnugraabuallucros",   "mnugrabancarioanual", "mnuestdiadesp",
-                "mnuestdialucros",     "mnuestdiabancario",   "mnuestmesdesp",       "mnuestmeslucros",
-                "mnuestmesbancario",   "mnuestanualdesp",     "mnuestanuallucros",   "mnuestanualbancario",
-                "mnuestpagar",         "mnuestreceber",       "mnuestbancario",      "mnuestcli",
-                "mnuestforn",          "mnuestplanopagar",    "mnuestplanoreceber",  "mnuretcliente",
-                "mnuretfornecedor",    "mnugrapagar",         "mnugrareceber",       "mnugrabancario",
-                "mnugradesprec",       "mnuestsoftware"};
+    working += {"mnudiapagar",       "mnudiareceber",       "mnudibancario",       "mnumespagar",
+                "mnumesreceber",     "mnumesbancario",      "mnuanualpagar",       "mnuanualreceber",
+                "mnuanualbancario",  "mnuretdiadesp",       "mnuretdialucros",     "mnuretdiabancario",
+                "mnuretmesdespesas", "mnuretmeslucros",     "mnuretmesbancario",   "mnuretanualdespesas",
+                "mnuretanolucros",   "mnuretanualbancario", "mnugradiadesp",       "mnugralucrosdia",
+                "mnugrabancdia",     "mnugradespmes",       "mnugralucrosmes",     "mnugrabancmes",
+                "mnugraanualdesp",   "mnugraabuallucros",   "mnugrabancarioanual", "mnuestdiadesp",
+                "mnuestdialucros",   "mnuestdiabancario",   "mnuestmesdesp",       "mnuestmeslucros",
+                "mnuestmesbancario", "mnuestanualdesp",     "mnuestanuallucros",   "mnuestanualbancario",
+                "mnuestpagar",       "mnuestreceber",       "mnuestbancario",      "mnuestcli",
+                "mnuestforn",        "mnuestplanopagar",    "mnuestplanoreceber",  "mnuretcliente",
+                "mnuretfornecedor",  "mnugrapagar",         "mnugrareceber",       "mnugrabancario",
+                "mnugradesprec",     "mnuestsoftware"};
     int leaves = 0;
     for (const auto& e : shell::main_menu()) {
         if (e.name == QLatin1String("-")) continue;
