@@ -147,6 +147,9 @@ CREATE INDEX bancario_destino_dobrada ON bancario (quintara_fold(destino), quint
 -- case is refused, on adding and on renaming.
 CREATE UNIQUE INDEX pcontapagar_descricao ON pcontapagar (quintara_fold(descricao));
 CREATE UNIQUE INDEX pcontareceber_descricao ON pcontareceber (quintara_fold(descricao));
--- The entries of a centre, for its summary.
+-- The statistics by supplier, client and centre and a centre's summary look each one's entries
+-- up by its name, folded the same way.
+CREATE INDEX pagar_fornecedor_dobrado ON pagar (quintara_fold(fornecedor));
+CREATE INDEX receber_cliente_dobrado ON receber (quintara_fold(cliente));
 CREATE INDEX pagar_descricao_dobrada ON pagar (quintara_fold(descricao));
 CREATE INDEX receber_descricao_dobrada ON receber (quintara_fold(descricao));

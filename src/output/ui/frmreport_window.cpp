@@ -74,10 +74,29 @@ void report_window::encher(list_view* alvo, std::vector<QStringList>&& rows) {
     mostrar(alvo);
 }
 
+QString report_window::save_title(output::formato_relatorio f) const {
+    return output::save_title(f);
+}
+
+QString report_window::save_filter(output::formato_relatorio f) const {
+    return output::save_filter(report_texts().janela, f);
+}
+
+void report_window::salvar(output::formato_relatorio f) {
+    const output::report_texts t = report_texts();
+    const list_view* lista = lista_visivel();
+    output::salvar_arquivo(save_title(f), save_filter(f), relatorio_.Progresbar(), [&](QIODevice& file) {
+        if (f == output::formato_relatorio::txt)
+            output::write_text_report(file, t, lista, relatorio_);
+        else
+            output::write_html_report(file, t, lista, relatorio_);
+    });
+}
+
 void report_window::salvartxt() {
-    output::salvar_relatorio(output::formato_relatorio::txt, report_texts(), lista_visivel(), relatorio_);
+    salvar(output::formato_relatorio::txt);
 }
 
 void report_window::salvarhtml() {
-    output::salvar_relatorio(output::formato_relatorio::html, report_texts(), lista_visivel(), relatorio_);
+    salvar(output::formato_relatorio::html);
 }

@@ -66,8 +66,13 @@ protected:
     void encher(list_view* alvo, std::vector<QStringList>&& rows);
     const std::vector<list_view*>& listas() const { return listas_; }
     output::progress* barra() const { return barra_.get(); }
+    // The save dialog's title and filter; the report windows' own unless a window says otherwise.
+    virtual QString save_title(output::formato_relatorio f) const;
+    virtual QString save_filter(output::formato_relatorio f) const;
 
 private:
+    void salvar(output::formato_relatorio f);
+
     std::vector<list_view*> listas_;
     output::c_relatorios relatorio_;
     std::unique_ptr<output::progress> barra_;

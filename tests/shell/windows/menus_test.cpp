@@ -53,6 +53,20 @@ TEST_F(menus, every_item_exists_with_its_caption_and_only_working_items_are_enab
                 "mnucal",          "mnuretcompdia", "mnuretcompgeral", "mnuretcompmes"};
     // the centres and the integrated report
     working += {"mnucentrocusto", "mnucentrolucro", "mnuretint"};
+    // the period summaries, charts and statistics
+    working += {"mnudiapagar",       "mnudiareceber",       "mnudibancario",       "mnumespagar",
+                "mnumesreceber",     "mnumesbancario",      "mnuanualpagar",       "mnuanualreceber",
+                "mnuanualbancario",  "mnuretdiadesp",       "mnuretdialucros",     "mnuretdiabancario",
+                "mnuretmesdespesas", "mnuretmeslucros",     "mnuretmesbancario",   "mnuretanualdespesas",
+                "mnuretanolucros",   "mnuretanualbancario", "mnugradiadesp",       "mnugralucrosdia",
+                "mnugrabancdia",     "mnugradespmes",       "mnugralucrosmes",     "mnugrabancmes",
+                "mnugraanualdesp",   "mnugraabuallucros",   "mnugrabancarioanual", "mnuestdiadesp",
+                "mnuestdialucros",   "mnuestdiabancario",   "mnuestmesdesp",       "mnuestmeslucros",
+                "mnuestmesbancario", "mnuestanualdesp",     "mnuestanuallucros",   "mnuestanualbancario",
+                "mnuestpagar",       "mnuestreceber",       "mnuestbancario",      "mnuestcli",
+                "mnuestforn",        "mnuestplanopagar",    "mnuestplanoreceber",  "mnuretcliente",
+                "mnuretfornecedor",  "mnugrapagar",         "mnugrareceber",       "mnugrabancario",
+                "mnugradesprec",     "mnuestsoftware"};
     int leaves = 0;
     for (const auto& e : shell::main_menu()) {
         if (e.name == QLatin1String("-")) continue;
