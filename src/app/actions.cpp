@@ -1,6 +1,7 @@
 #include "app/actions.h"
 
 #include "analysis/ui/actions.h"
+#include "analysis/ui/income_actions.h"
 #include "banks/ui/actions.h"
 #include "registers/ui/actions.h"
 #include "shell/ui/actions.h"
@@ -12,6 +13,7 @@ void register_actions() {
     shell::register_actions();
     registers::register_actions();
     analysis::register_actions();
+    analysis::register_income_actions();
 }
 
 } // namespace app
