@@ -3,13 +3,28 @@
 
 #include "support/fixture.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QPointer>
 #include <QProcess>
+#include <QRegularExpression>
+#include <QWidget>
+
+#include <vector>
 
 namespace testing_banks {
 
 class bank_file : public support::fixture {
 protected:
+    // The windows a test opened go with it (a window may take others with it: guarded).
+    void TearDown() override {
+        QList<QPointer<QWidget>> abertas;
+        for (QWidget* w : QApplication::topLevelWidgets())
+            abertas << w;
+        for (const QPointer<QWidget>& w : abertas)
+            delete w.data();
+        support::fixture::TearDown();
+    }
     void conta(const QString& nome, const QString& saldo, const QString& info = QStringLiteral("Conta")) {
         exec(QStringLiteral("INSERT INTO banco (banco, informacoes, saldo) VALUES ('%1', '%2', '%3')")
                  .arg(quoted(nome), info, saldo));
@@ -56,6 +71,29 @@ inline QStringList pdf_pages(const QString& pdf) {
     QStringList pages = QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\f'));
     if (!pages.isEmpty() && pages.last().trimmed().isEmpty()) pages.removeLast();
     return pages;
+}
+
+// The words of a printed PDF with their page and top-left corner in points.
+struct pdf_word {
+    int page;
+    double x, y;
+    QString text;
+};
+inline std::vector<pdf_word> pdf_words(const QString& pdf) {
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")});
+    if (!p.waitForFinished(60000) || p.exitCode() != 0) return {};
+    static const QRegularExpression word(
+        QStringLiteral("<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>([^<]*)</word>"));
+    std::vector<pdf_word> out;
+    int page = -1;
+    for (const QString& l : QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\n'))) {
+        if (l.contains(QLatin1String("<page "))) ++page;
+        const auto m = word.match(l);
+        if (m.hasMatch())
+            out.push_back({page, m.captured(1).toDouble(), m.captured(2).toDouble(), m.captured(3)});
+    }
+    return out;
 }
 
 } // namespace testing_banks

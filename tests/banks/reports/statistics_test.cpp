@@ -24,11 +24,6 @@ namespace {
 
 class statistics : public testing_banks::bank_file {
 protected:
-    void TearDown() override {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            delete w;
-        bank_file::TearDown();
-    }
     // Three accounts and rows of every kind, in and out of November 2026.
     void livro() {
         conta(u"Banco do Brasil"_s, u"1.000,00"_s, u"Conta corrente"_s);
