@@ -72,9 +72,9 @@ TEST_F(statement, settled_rows_of_the_account_dated_in_the_period) {
                                              u"23/12/2026"_s, u"R$ 1.234,50"_s, u"Concluído"_s, u"Itaú"_s}};
     EXPECT_EQ(e.pagar, pagar);
     ASSERT_EQ(e.receber.size(), 2u);
-    EXPECT_EQ(e.receber[0][6], u"R$ 100,00"_s);
-    EXPECT_EQ(e.receber[0][8], u"ITAÚ"_s);
-    EXPECT_EQ(e.receber[1][6], u"R$ abc"_s);
+    EXPECT_EQ(e.receber[1][6], u"R$ 100,00"_s);
+    EXPECT_EQ(e.receber[1][8], u"ITAÚ"_s);
+    EXPECT_EQ(e.receber[0][6], u"R$ abc"_s);
     // the transfer into the account is left out without the target
     ASSERT_EQ(e.movimento.size(), 3u);
     EXPECT_EQ(e.movimento[2],
