@@ -96,7 +96,10 @@ frmestbanco::frmestbanco() : QWidget(nullptr, Qt::Window) {
     barra_ = std::make_unique<output::barra_progresso>(barraprogresso);
     relatorio_.set_Progresbar(barra_.get());
     output::set_relatorio(&relatorio_);
-    resize(list_view::twips_to_pixels(11000, this), list_view::twips_to_pixels(8000, this));
+}
+
+QSize frmestbanco::sizeHint() const {
+    return {list_view::twips_to_pixels(11000, this), list_view::twips_to_pixels(8000, this)};
 }
 
 frmestbanco::~frmestbanco() {

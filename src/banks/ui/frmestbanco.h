@@ -22,6 +22,8 @@ public:
     static frmestbanco* instance();
     static frmestbanco* aberto();
     ~frmestbanco() override;
+    // The size it opens with; the layout alone would make it small.
+    QSize sizeHint() const override;
 
     // Days as "yyyy/mm/dd".
     void geral(const QString& data1, const QString& data2);

@@ -115,7 +115,10 @@ frmextrato::frmextrato() : QWidget(nullptr, Qt::Window) {
     barra_ = std::make_unique<output::barra_progresso>(barraprogresso);
     relatorio_.set_Progresbar(barra_.get());
     output::set_relatorio(&relatorio_);
-    resize(list_view::twips_to_pixels(12500, this), list_view::twips_to_pixels(7000, this));
+}
+
+QSize frmextrato::sizeHint() const {
+    return {list_view::twips_to_pixels(12500, this), list_view::twips_to_pixels(7000, this)};
 }
 
 frmextrato::~frmextrato() {

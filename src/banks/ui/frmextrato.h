@@ -20,6 +20,8 @@ class frmextrato : public QWidget {
 public:
     static frmextrato* instance();
     ~frmextrato() override;
+    // The size it opens with; the layout alone would make it small.
+    QSize sizeHint() const override;
 
     // Days as "yyyy/mm/dd"; filtro is the text of lblfiltro.
     void carregar(const QString& conta, const QString& data1, const QString& data2, bool destino,
