@@ -1,7 +1,12 @@
 // The accounts list on a full file: 50 accounts over about 300,000 settled rows of pagar, receber
 // and bancario. The balance of one account, the rows of the whole list, and the main window's
 // carregarbancos with its summary; each with and without the indexes on the folded account names.
+// Then the accounts' statistics over a year and up to a day, and the statement of one account.
 #include "banks/balance.h"
+#include "banks/statement.h"
+#include "banks/statistics.h"
+#include "banks/ui/frmestbanco.h"
+#include "banks/ui/frmextrato.h"
 #include "generator/data_generator.h"
 #include "platform/clock.h"
 #include "platform/settings.h"
@@ -26,13 +31,13 @@ constexpr int contas = 50;
 
 const char* const fold_indexes[] = {
     "CREATE INDEX IF NOT EXISTS pagar_origem_dobrada ON pagar (quintara_fold(origem), "
-    "quintara_fold(estatus))",
+    "quintara_fold(estatus), data)",
     "CREATE INDEX IF NOT EXISTS receber_origem_dobrada ON receber (quintara_fold(origem), "
-    "quintara_fold(estatus))",
+    "quintara_fold(estatus), data)",
     "CREATE INDEX IF NOT EXISTS bancario_origem_dobrada ON bancario (quintara_fold(origem), "
-    "quintara_fold(estatus), quintara_fold(movimento))",
+    "quintara_fold(estatus), quintara_fold(movimento), data)",
     "CREATE INDEX IF NOT EXISTS bancario_destino_dobrada ON bancario (quintara_fold(destino), "
-    "quintara_fold(estatus), quintara_fold(movimento))",
+    "quintara_fold(estatus), quintara_fold(movimento), data)",
 };
 const char* const fold_index_names[] = {"pagar_origem_dobrada", "receber_origem_dobrada",
                                         "bancario_origem_dobrada", "bancario_destino_dobrada"};
@@ -62,13 +67,26 @@ void spread_over_fifty_accounts() {
                 .arg(i)
                 .arg(vb::format_money(vb::currency::from_cents(100000 + 7919 * i))));
     }
-    // each row to the account of its number; transfers keep a target other than their source
+    // each row to the account of its number; transfers keep a target other than their source (a CASE:
+    // the engine evaluates a subquery whose OFFSET names the outer row only once)
+    QStringList nomes;
+    {
+        sql::recordset rs;
+        rs.open(QStringLiteral("SELECT banco FROM banco ORDER BY rowid"), c);
+        for (; !rs.eof(); rs.move_next())
+            nomes << rs.text(0);
+    }
+    const auto conta_de = [&](const QString& numero) {
+        QString e = QStringLiteral("CASE (") + numero + QStringLiteral(") % 50");
+        for (int i = 0; i < int(nomes.size()); ++i)
+            e += QStringLiteral(" WHEN %1 THEN '%2'").arg(i).arg(nomes[i]);
+        return e + QStringLiteral(" END");
+    };
     for (const char* t : {"pagar", "receber", "bancario"})
-        c->execute(QStringLiteral("UPDATE %1 SET origem = (SELECT banco FROM banco ORDER BY rowid LIMIT 1 "
-                                  "OFFSET (\"código\" * 7) % 50) WHERE origem <> '-'")
-                       .arg(QString::fromLatin1(t)));
-    c->execute(QStringLiteral("UPDATE bancario SET destino = (SELECT banco FROM banco ORDER BY rowid LIMIT 1 "
-                              "OFFSET (\"código\" * 7 + 1 + \"código\" % 13) % 50) WHERE destino <> ' - '"));
+        c->execute(QStringLiteral("UPDATE %1 SET origem = %2 WHERE origem <> '-'")
+                       .arg(QString::fromLatin1(t), conta_de(QStringLiteral("\"código\" * 7"))));
+    c->execute(QStringLiteral("UPDATE bancario SET destino = %1 WHERE destino <> ' - '")
+                   .arg(conta_de(QStringLiteral("\"código\" * 7 + 1 + \"código\" % 13"))));
     c->execute(QStringLiteral("COMMIT"));
 }
 
@@ -151,6 +169,54 @@ void BM_carregarbancos(benchmark::State& state) {
 }
 BENCHMARK(BM_carregarbancos)->ArgName("indices")->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(5);
 
+// The statistics of the fifty accounts: the figures alone, and the window with its list and texts.
+void BM_estatisticas(benchmark::State& state) {
+    set_indexes(true);
+    const bool janela = state.range(1) != 0;
+    const QString inicio = state.range(0) ? QStringLiteral("2025/11/24") : banks::inicio_do_dia;
+    for (auto _ : state) {
+        if (janela)
+            frmestbanco::instance()->geral(inicio, QStringLiteral("2026/11/23"));
+        else
+            benchmark::DoNotOptimize(banks::geral(inicio, QStringLiteral("2026/11/23")).soma_periodo);
+    }
+}
+BENCHMARK(BM_estatisticas)
+    ->ArgNames({"um_ano", "janela"})
+    ->Args({1, 0})
+    ->Args({1, 1})
+    ->Args({0, 1})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(5);
+
+// The statement of one account over a year (or the whole file), with the transfers into it or not;
+// the figures alone, and the window with its three lists.
+void BM_extrato(benchmark::State& state) {
+    set_indexes(true);
+    const QString inicio = state.range(0) ? QStringLiteral("2025/11/24") : QStringLiteral("2000/01/01");
+    const bool destino = state.range(1) != 0, janela = state.range(2) != 0;
+    std::size_t linhas = 0;
+    for (auto _ : state) {
+        if (janela) {
+            frmextrato::instance()->carregar(QStringLiteral("Itaú"), inicio, QStringLiteral("2026/11/23"),
+                                             destino, QString());
+        } else {
+            const banks::extrato e = banks::carregar_extrato(QStringLiteral("Itaú"), inicio,
+                                                             QStringLiteral("2026/11/23"), destino);
+            linhas = e.pagar.size() + e.receber.size() + e.movimento.size();
+        }
+    }
+    state.counters["linhas"] = double(linhas);
+}
+BENCHMARK(BM_extrato)
+    ->ArgNames({"um_ano", "destino", "janela"})
+    ->Args({1, 0, 0})
+    ->Args({1, 1, 0})
+    ->Args({1, 1, 1})
+    ->Args({0, 1, 0})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(5);
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -191,6 +257,8 @@ int main(int argc, char** argv) {
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     delete frmprincipal::instance();
+    delete frmestbanco::aberto();
+    delete frmextrato::instance();
     store::conexao.reset();
     platform::set_clock(nullptr);
     return 0;

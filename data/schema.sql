@@ -138,10 +138,11 @@ CREATE INDEX bancario_estatus ON bancario (estatus);
 
 -- An account's settled rows, found by its name as LIKE compares it (case folded over all of
 -- Unicode); quintara_fold is a function of the program, present on every connection it opens.
-CREATE INDEX pagar_origem_dobrada ON pagar (quintara_fold(origem), quintara_fold(estatus));
-CREATE INDEX receber_origem_dobrada ON receber (quintara_fold(origem), quintara_fold(estatus));
-CREATE INDEX bancario_origem_dobrada ON bancario (quintara_fold(origem), quintara_fold(estatus), quintara_fold(movimento));
-CREATE INDEX bancario_destino_dobrada ON bancario (quintara_fold(destino), quintara_fold(estatus), quintara_fold(movimento));
+-- The day last: the reports over a period read only the rows dated in it.
+CREATE INDEX pagar_origem_dobrada ON pagar (quintara_fold(origem), quintara_fold(estatus), data);
+CREATE INDEX receber_origem_dobrada ON receber (quintara_fold(origem), quintara_fold(estatus), data);
+CREATE INDEX bancario_origem_dobrada ON bancario (quintara_fold(origem), quintara_fold(estatus), quintara_fold(movimento), data);
+CREATE INDEX bancario_destino_dobrada ON bancario (quintara_fold(destino), quintara_fold(estatus), quintara_fold(movimento), data);
 
 -- A centre's name is its identity, compared as LIKE compares it: a second name that differs only in
 -- case is refused, on adding and on renaming.

@@ -1,6 +1,7 @@
 #include "app/actions.h"
 
 #include "analysis/ui/actions.h"
+#include "analysis/ui/income_actions.h"
 #include "analysis/ui/integrated_actions.h"
 #include "banks/ui/actions.h"
 #include "registers/ui/actions.h"
@@ -16,6 +17,7 @@ void register_actions() {
     analysis::register_actions();
     registers::register_centre_actions();
     analysis::register_integrated_actions();
+    analysis::register_income_actions();
 }
 
 } // namespace app

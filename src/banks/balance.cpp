@@ -36,22 +36,6 @@ vb::currency amount_or_zero(const QString& text) {
     }
 }
 
-// CStr of a currency value: no grouping, a comma only when there are decimals ("8730,45", "12500").
-QString plain_currency_text(vb::currency v) {
-    const std::int64_t raw = v.raw();
-    const bool negative = raw < 0;
-    const std::uint64_t mag = negative ? std::uint64_t(0) - std::uint64_t(raw) : std::uint64_t(raw);
-    QString s = QString::number(mag / 10000);
-    std::uint64_t frac = mag % 10000;
-    if (frac) {
-        QString digits = QStringLiteral("%1").arg(frac, 4, 10, QLatin1Char('0'));
-        while (digits.endsWith(QLatin1Char('0')))
-            digits.chop(1);
-        s += QLatin1Char(',') + digits;
-    }
-    return negative ? QLatin1Char('-') + s : s;
-}
-
 enum class effect { less, more, by_kind };
 
 } // namespace
@@ -90,48 +74,62 @@ std::optional<vb::currency> rounded_amount(const QString& stored) {
     return vb::currency::from_raw((raw < 0 ? -cents : cents) * 100);
 }
 
+int walk_account(const sql::connection_ptr& conn, const QString& nome, const std::optional<period>& periodo,
+                 const std::array<int, 5>& ordem, const std::function<void(const statement_row&)>& visit) {
+    // taken as given: a first day after the last finds nothing, whatever the dialect makes of it
+    if (periodo && QString::compare(periodo->de, periodo->ate, Qt::CaseSensitive) > 0) return 0;
+    const auto statements = balance_statements(nome, periodo);
+    int falhas = 0;
+    statement_row row;
+    for (const int i : ordem) {
+        try {
+            sql::recordset rs;
+            rs.open(statements[std::size_t(i)], conn, sql::keyset, sql::read_only);
+            const int valor = rs.index_of(store::coluna::valor);
+            const int movimento = i == consulta_movimentos ? rs.index_of(store::coluna::movimento) : -1;
+            row.statement = i;
+            row.movimento.clear();
+            for (; !rs.eof(); rs.move_next()) {
+                row.valor = rs.text(valor);
+                if (movimento >= 0) row.movimento = rs.text(movimento);
+                visit(row);
+            }
+        } catch (const sql::error&) {
+            ++falhas;
+        }
+    }
+    return falhas;
+}
+
 account_balance compute_balance(const sql::connection_ptr& conn, const QString& nome, const QString& saldo,
                                 const std::optional<period>& periodo) {
     account_balance b;
     b.inicial = rounded_amount(saldo).value_or(vb::currency());
     b.total = b.inicial;
-    const auto statements = balance_statements(nome, periodo);
     const effect effects[5] = {effect::less, effect::more, effect::by_kind, effect::less, effect::more};
     vb::currency* sums[5] = {&b.despesas, &b.receitas, nullptr, &b.transferido, &b.recebido};
-    for (std::size_t i = 0; i < statements.size(); ++i) {
-        try {
-            sql::recordset rs;
-            rs.open(statements[i], conn, sql::keyset, sql::read_only);
-            const int valor = rs.index_of(QStringLiteral("Valor"));
-            const int movimento =
-                effects[i] == effect::by_kind ? rs.index_of(QStringLiteral("movimento")) : -1;
-            for (; !rs.eof(); rs.move_next()) {
-                const auto v = rounded_amount(rs.text(valor));
-                if (!v) continue;
-                effect e = effects[i];
-                vb::currency* sum = sums[i];
-                if (e == effect::by_kind) {
-                    const QString kind = rs.text(movimento);
-                    if (kind == store::palavra::deposito) {
-                        e = effect::more;
-                        sum = &b.depositos;
-                    } else if (kind == store::palavra::retirada) {
-                        e = effect::less;
-                        sum = &b.retiradas;
-                    } else {
-                        continue;
-                    }
-                }
-                add_to(*sum, *v);
-                if (e == effect::more)
-                    add_to(b.total, *v);
-                else
-                    subtract_from(b.total, *v);
+    b.falhas = walk_account(conn, nome, periodo, ordem_do_saldo, [&](const statement_row& r) {
+        const auto v = rounded_amount(r.valor);
+        if (!v) return;
+        effect e = effects[r.statement];
+        vb::currency* sum = sums[r.statement];
+        if (e == effect::by_kind) {
+            if (r.movimento == store::palavra::deposito) {
+                e = effect::more;
+                sum = &b.depositos;
+            } else if (r.movimento == store::palavra::retirada) {
+                e = effect::less;
+                sum = &b.retiradas;
+            } else {
+                return;
             }
-        } catch (const sql::error&) {
-            ++b.falhas;
         }
-    }
+        add_to(*sum, *v);
+        if (e == effect::more)
+            add_to(b.total, *v);
+        else
+            subtract_from(b.total, *v);
+    });
     return b;
 }
 
@@ -202,8 +200,8 @@ QString resumo_caixa(const std::vector<QStringList>& rows) {
         add_to(soma_atual, atual);
         add_to(soma_movimento, movimento);
         out += QStringLiteral("Caixa/Banco: ") + cell(0) + QLatin1Char('(') + cell(2) + QLatin1Char(')') +
-               line + QStringLiteral("O saldo neste banco inicio com R$ ") + plain_currency_text(inicial) +
-               line + QStringLiteral("O saldo atual é R$ ") + vb::format_money(atual) + line +
+               line + QStringLiteral("O saldo neste banco inicio com R$ ") + vb::cstr(inicial) + line +
+               QStringLiteral("O saldo atual é R$ ") + vb::format_money(atual) + line +
                QStringLiteral("Movimentação de R$ ") + vb::format_money(movimento) + line + QLatin1Char('.') +
                line;
     }

@@ -28,6 +28,31 @@ struct period {
 // also asks for `data` between the two days.
 std::array<QString, 5> balance_statements(const QString& nome, const std::optional<period>& periodo = {});
 
+// Indexes into balance_statements, and the order the accounts list runs them in.
+enum statement_index {
+    consulta_despesas = 0,
+    consulta_receitas = 1,
+    consulta_movimentos = 2,
+    consulta_saida = 3,   // transfers out
+    consulta_entrada = 4, // transfers in
+};
+inline constexpr std::array<int, 5> ordem_do_saldo = {consulta_despesas, consulta_receitas,
+                                                      consulta_movimentos, consulta_saida, consulta_entrada};
+
+// One row an account's statements found: which statement, its `Valor` as stored, and its
+// `movimento` (the movements statement only).
+struct statement_row {
+    int statement = 0;
+    QString valor;
+    QString movimento;
+};
+
+// The walk every per-account figure shares: the statements of the account in the given order,
+// each row handed to visit. A statement that fails is skipped and counted (the return value); with
+// a period whose first day comes after the last, nothing runs.
+int walk_account(const sql::connection_ptr& conn, const QString& nome, const std::optional<period>& periodo,
+                 const std::array<int, 5>& ordem, const std::function<void(const statement_row&)>& visit);
+
 // An amount as it enters a sum: the stored text through "##,##0.00" and read back, so every
 // addend is rounded to the cent. Empty when the text is no amount.
 std::optional<vb::currency> rounded_amount(const QString& stored);

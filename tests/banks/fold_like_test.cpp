@@ -20,6 +20,12 @@ TEST(fold_like, literal_likes_become_equalities_of_folded_texts) {
         {"SELECT * FROM [pagar] where [origem] like 'Itaú' AND [estatus] like 'Concluído' order by data",
          "SELECT * FROM [pagar] where (quintara_fold([origem]) = quintara_fold('Itaú')) AND "
          "(quintara_fold([estatus]) = quintara_fold('Concluído')) order by data"},
+        // two folded columns beside an OR are never merged into one IN list (which loses rows)
+        {"select * from [bancario] where (origem like 'Itaú' OR [destino] like 'Itaú') AND [estatus] like "
+         "'X'",
+         "select * from [bancario] where ((quintara_fold(origem) = quintara_fold('Itaú') AND 1) OR "
+         "(quintara_fold([destino]) = quintara_fold('Itaú') AND 1)) AND (quintara_fold([estatus]) = "
+         "quintara_fold('X') AND 1)"},
         // wildcards keep LIKE
         {"SELECT * FROM pagar where(data like '%2026%')", nullptr},
         {"SELECT * FROM pagar where(descricao like 'a_c')", nullptr},

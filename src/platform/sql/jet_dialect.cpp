@@ -86,6 +86,14 @@ QString fold_like_literals(const QString& s) {
     while (first < s.size() && is_blank(s[first]))
         ++first;
     if (!starts_word(s, first, QLatin1String("select"))) return s;
+    // The engine turns "f(a) = x OR f(b) = y" into one IN list over whichever of the two expression
+    // indexes it picks, and so loses the rows of the other. A term that is an AND of its own is
+    // never merged so: beside an OR each equality carries "AND 1", which changes no row.
+    bool has_or = false;
+    for (qsizetype i = 0, quote = 0; i < s.size() && !has_or; ++i) {
+        if (s[i] == QLatin1Char('\'')) ++quote;
+        has_or = quote % 2 == 0 && starts_word(s, i, QLatin1String("or"));
+    }
     QString out;
     qsizetype copied = 0;
     bool in_text = false;
@@ -128,7 +136,7 @@ QString fold_like_literals(const QString& s) {
         out += name;
         out += QStringLiteral(") = quintara_fold('");
         out += text;
-        out += QStringLiteral("'))");
+        out += has_or ? QStringLiteral("') AND 1)") : QStringLiteral("'))");
         copied = k;
         i = k - 1;
     }

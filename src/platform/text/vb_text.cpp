@@ -344,6 +344,20 @@ QString cstr(double v) {
     return s;
 }
 
+QString cstr(currency v) {
+    const std::int64_t raw = v.raw();
+    const bool negative = raw < 0;
+    const std::uint64_t mag = negative ? std::uint64_t(0) - std::uint64_t(raw) : std::uint64_t(raw);
+    QString s = QString::number(mag / 10000);
+    if (const std::uint64_t frac = mag % 10000) {
+        QString digits = QStringLiteral("%1").arg(frac, 4, 10, QLatin1Char('0'));
+        while (digits.endsWith(QLatin1Char('0')))
+            digits.chop(1);
+        s += QLatin1Char(',') + digits;
+    }
+    return negative ? QLatin1Char('-') + s : s;
+}
+
 std::uint32_t colour_number(const QString& text, std::uint32_t fallback) {
     QString s = text.trimmed();
     if (s.endsWith(QLatin1Char('&'))) s.chop(1);

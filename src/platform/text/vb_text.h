@@ -73,6 +73,8 @@ double val(const QString& text);
 
 // CStr of a double: no decimals when whole, comma otherwise.
 QString cstr(double v);
+// CStr of a currency value: no grouping, a comma only when there are decimals ("8730,45", "12500").
+QString cstr(currency v);
 
 // VB colour numbers: "&HFFFFFF", "&HC0FFFF&", "16777215". Unreadable text gives fallback.
 std::uint32_t colour_number(const QString& text, std::uint32_t fallback = 0);

@@ -293,10 +293,11 @@ TEST_F(actions, every_popup_item_is_present_and_enabled_only_when_it_can_work) {
         "popordemdesc3",         "poporgdatabancario",  "poporgtipobancario",    "poporgorigembancario",
         "poporgdestinobancario", "poporgvalorbancario", "poporgestatusbancario", "popvistodosbancario",
         "popvisanosbancario",    "popvismesbancario",   "popadicionarcaixa",     "popalterarcaixa",
-        "popremovercaixa",       "popmultiplos",        "popmultiplosreceber"};
+        "popremovercaixa",       "popmultiplos",        "popmultiplosreceber",   "mnuestbanco",
+        "mnusaldobanco"};
     // the receipt, the items with no action and the windows of later work
-    const QStringList waiting = {"mnpoprecebopagar", "popreciboreceber", "popordem2",    "poporgreceber",
-                                 "mnuimprimirdados", "mnuestbanco",      "mnusaldobanco"};
+    const QStringList waiting = {"mnpoprecebopagar", "popreciboreceber", "popordem2", "poporgreceber",
+                                 "mnuimprimirdados"};
     int checked = 0;
     for (const auto& e : shell::popup_entries()) {
         if (e.kind == shell::popup_kind::separator || e.kind == shell::popup_kind::submenu) continue;
