@@ -42,9 +42,8 @@ bool status_tally::is_pending(const QString& estatus) const {
     return estatus.toUpper() == pendente_maiusculo;
 }
 
-void status_tally::add(const QString& estatus, const QString& valor) {
+void status_tally::add(const QString& estatus, std::optional<vb::currency> v) {
     ++count;
-    const std::optional<vb::currency> v = rounded_amount(valor);
     const double d = v ? v->to_double() : 0.0;
     if (v) add_to(total, *v);
     total_d += d;

@@ -30,7 +30,9 @@ struct status_tally {
     double total_d = 0, pending_d = 0, concluded_d = 0;
 
     // One row. A sum past the currency's range stops growing; the counts go on.
-    void add(const QString& estatus, const QString& valor);
+    void add(const QString& estatus, const QString& valor) { add(estatus, rounded_amount(valor)); }
+    // The same with the amount already read (empty: no amount).
+    void add(const QString& estatus, std::optional<vb::currency> valor);
     bool is_pending(const QString& estatus) const;
 };
 

@@ -22,20 +22,36 @@ namespace mail {
 
 namespace {
 
-// The rows of one ledger as the page's working list held them, for the exporter.
+// The rows of one ledger as the page's working list held them, for the exporter. The texts lie
+// end to end in one buffer and are handed out without a copy: a few hundred thousand rows cost
+// no allocation each.
 class tabela : public platform::table_source {
 public:
-    explicit tabela(QStringList cabecalhos) : cabecalhos_(std::move(cabecalhos)) {}
+    tabela(QStringList cabecalhos, qsizetype linhas) : cabecalhos_(std::move(cabecalhos)) {
+        fins_.reserve(std::size_t(linhas * cabecalhos_.size()));
+        textos_.reserve(linhas * 160);
+    }
     int column_count() const override { return int(cabecalhos_.size()); }
     QString column_text(int col) const override { return cabecalhos_.at(col); }
     double column_width(int) const override { return 1440; }
-    int row_count() const override { return int(linhas_.size()); }
-    QString text(int row, int col) const override { return linhas_[std::size_t(row)].value(col); }
-    std::vector<QStringList>& linhas() { return linhas_; }
+    int row_count() const override { return int(fins_.size() / std::size_t(cabecalhos_.size())); }
+    QString text(int row, int col) const override {
+        const std::size_t k = std::size_t(row) * std::size_t(cabecalhos_.size()) + std::size_t(col);
+        const qsizetype inicio = k == 0 ? 0 : fins_[k - 1];
+        return QString::fromRawData(textos_.constData() + inicio, fins_[k] - inicio);
+    }
+    // A cell, or the pieces of one closed by fim().
+    tabela& operator<<(QStringView s) {
+        textos_ += s;
+        return *this;
+    }
+    void fim() { fins_.push_back(textos_.size()); }
+    void celula(QStringView s) { *this << s, fim(); }
 
 private:
     QStringList cabecalhos_;
-    std::vector<QStringList> linhas_;
+    QString textos_;
+    std::vector<qsizetype> fins_;
 };
 
 struct ledger_info {
@@ -48,6 +64,11 @@ const QString regua(48, QLatin1Char('-'));
 
 QString reais(vb::currency v) {
     return vb::format_money_prefixed(v, u"R$ "_s);
+}
+
+// "##,##0.00" of a stored amount; text that is no amount stays as it is.
+QString texto_valor(const QString& valor, const std::optional<vb::currency>& v) {
+    return v ? vb::format_money(*v) : vb::reformat_money_text(valor);
 }
 
 void linha(QIODevice& out, const QString& s) {
@@ -88,17 +109,25 @@ void escrever_ledger(QIODevice& out, const ledger_info& l, const pagina& p, tipo
                                    u"Valor"_s, u"Estatus"_s, u"Informações"_s}
                      : QStringList{u"Código"_s, u"Data"_s, u"Descrição"_s, u"Documento"_s,
                                    l.tabela == store::tabela::receber ? u"Cliente"_s : u"Fornecedor"_s,
-                                   u"Vencimento"_s, u"Valor"_s, u"Estatus"_s, u"Origem"_s});
-    lista.linhas().reserve(std::size_t(total));
+                                   u"Vencimento"_s, u"Valor"_s, u"Estatus"_s, u"Origem"_s},
+                 total);
     if (l.movimento) {
         const int i_mov = col(store::coluna::movimento), i_destino = col(store::coluna::destino),
                   i_info = col(store::coluna::informacoes);
         for (int n = 0; !rs.eof(); rs.move_next(), ++n) {
             const QString valor = txt(i_valor), estatus = txt(i_estatus), movimento = txt(i_mov);
-            lista.linhas().push_back({txt(i_codigo), txt(i_data), movimento, txt(i_origem), txt(i_destino),
-                                      u"R$ "_s + vb::reformat_money_text(valor), estatus, txt(i_info)});
-            soma.add(estatus, valor);
-            if (const auto v = analysis::rounded_amount(valor)) {
+            const std::optional<vb::currency> v = analysis::rounded_amount(valor);
+            for (int i : {i_codigo, i_data})
+                lista.celula(txt(i));
+            lista.celula(movimento);
+            for (int i : {i_origem, i_destino})
+                lista.celula(txt(i));
+            (lista << u"R$ ") << texto_valor(valor, v);
+            lista.fim();
+            lista.celula(estatus);
+            lista.celula(txt(i_info));
+            soma.add(estatus, v);
+            if (v) {
                 vb::currency& alvo = movimento == store::palavra::retirada   ? retiradas
                                      : movimento == store::palavra::deposito ? depositos
                                                                              : transferencias;
@@ -113,11 +142,17 @@ void escrever_ledger(QIODevice& out, const ledger_info& l, const pagina& p, tipo
                   i_venc = col(store::coluna::vencimento), i_moeda = col(store::coluna::moeda);
         for (int n = 0; !rs.eof(); rs.move_next(), ++n) {
             const QString valor = txt(i_valor), estatus = txt(i_estatus);
-            lista.linhas().push_back({txt(i_codigo), shell::display_date(txt(i_data)), txt(i_desc),
-                                      txt(i_doc), txt(i_contato), shell::display_date(txt(i_venc)),
-                                      txt(i_moeda) + u' ' + vb::reformat_money_text(valor), estatus,
-                                      txt(i_origem)});
-            soma.add(estatus, valor);
+            const std::optional<vb::currency> v = analysis::rounded_amount(valor);
+            lista.celula(txt(i_codigo));
+            lista.celula(shell::display_date(txt(i_data)));
+            for (int i : {i_desc, i_doc, i_contato})
+                lista.celula(txt(i));
+            lista.celula(shell::display_date(txt(i_venc)));
+            ((lista << txt(i_moeda)) << u" ") << texto_valor(valor, v);
+            lista.fim();
+            lista.celula(estatus);
+            lista.celula(txt(i_origem));
+            soma.add(estatus, v);
             if (barra && (n & 2047) == 0) barra(n, total);
         }
     }
@@ -147,7 +182,7 @@ QString estatisticas_ledger(const QString& tabela, const QString& titulo, const 
                   i_estatus = rs.index_of(store::coluna::estatus);
         for (; !rs.eof(); rs.move_next())
             soma.add(i_estatus < 0 ? QString() : rs.text(i_estatus),
-                     i_valor < 0 ? QString() : rs.text(i_valor));
+                     analysis::rounded_amount(i_valor < 0 ? QString() : rs.text(i_valor)));
     });
     const auto n = [](long v) { return QString::number(v); };
     return u"> "_s + titulo + u"<br><br>"_s + u"<b>Total de contas cadastradas:</b> "_s + n(soma.count) +

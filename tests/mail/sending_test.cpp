@@ -112,7 +112,12 @@ TEST_F(sending, the_server_receives_the_report_with_its_headers_body_and_attachm
     EXPECT_EQ(h[QStringLiteral("From")].toString(), QStringLiteral("<ana@quintara.test>"));
     EXPECT_EQ(h[QStringLiteral("To")].toString(), QStringLiteral("<ana@quintara.test>"));
     EXPECT_EQ(h[QStringLiteral("Subject")].toString(), QStringLiteral("Relatorio do Quintara"));
-    EXPECT_EQ(h[QStringLiteral("Date")].toString(), QStringLiteral("Mon, 23 Nov 2026 10:00:00 -0300"));
+    // the program's clock, with the zone's offset (-0300 in São Paulo)
+    const int off = QDateTime(QDate(2026, 11, 23), QTime(10, 0)).offsetFromUtc() / 60;
+    EXPECT_EQ(h[QStringLiteral("Date")].toString(), QStringLiteral("Mon, 23 Nov 2026 10:00:00 %1%2%3")
+                                                        .arg(off < 0 ? '-' : '+')
+                                                        .arg(qAbs(off) / 60, 2, 10, QLatin1Char('0'))
+                                                        .arg(qAbs(off) % 60, 2, 10, QLatin1Char('0')));
     EXPECT_TRUE(h[QStringLiteral("Message-ID")].toString().endsWith(QStringLiteral("@quintara.test>")));
 
     const QJsonArray parts = m[QStringLiteral("parts")].toArray();
