@@ -4,6 +4,7 @@
 #include "shell/ui/frmlogin.h"
 #include "shell/ui/frmprincipal.h"
 #include "store/conexao.h"
+#include "store/config.h"
 #include "store/data_file.h"
 #include "store/program_dir.h"
 #include "support/fixture.h"
@@ -64,6 +65,11 @@ TEST_F(backup, a_backup_copies_the_local_file_and_a_failed_one_leaves_every_file
     EXPECT_EQ(prompts_.records()[0].title, QStringLiteral("Realizar backup do banco de dados"));
     EXPECT_EQ(prompts_.records()[0].filter, QStringLiteral("Arquivo de banco de dados(*.qntbd)|*.qntbd"));
 
+    // in network mode too, the local file is what is saved
+    const QString rede = path(QStringLiteral("rede.qntbd"));
+    support::copy_fresh_data_file(rede);
+    store::save_setting(store::secao_config, QStringLiteral("EmRede"), QStringLiteral("1"));
+    store::save_setting(store::secao_config, QStringLiteral("RedeLocal"), rede);
     menu("mnurealizarbak", copia);
     expect_box(0, QStringLiteral("Backup"), QStringLiteral("Backup realizado com sucesso!"));
     EXPECT_EQ(conteudo(copia), conteudo(path(QStringLiteral("dados.qntbd"))));
