@@ -32,9 +32,8 @@ protected:
     }
     // Starts the server in a mode and points the program's mailer at it; "" when it did not start.
     QString start(const char* mode) {
-        QStringList args = {
-            QFileInfo(QStringLiteral(__FILE__)).dir().filePath(QStringLiteral("smtp_server.py")),
-            QString::fromLatin1(mode), received_.path()};
+        QStringList args = {QStringLiteral(QUINTARA_TEST_DATA_DIR "/../mail/smtp_server.py"),
+                            QString::fromLatin1(mode), received_.path()};
         platform::curl_mailer::options o;
         o.connect_timeout_s = 3;
         o.response_timeout_s = 3;
