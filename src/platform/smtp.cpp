@@ -216,14 +216,8 @@ mail_result curl_mailer::send(const mail_message& m) {
 }
 
 mail_result recording_mailer::send(const mail_message& m) {
-    QByteArray bytes;
-    if (!m.attachment.isEmpty()) {
-        QFile f(m.attachment);
-        if (f.open(QIODevice::ReadOnly)) bytes = f.readAll();
-    }
     std::lock_guard<std::mutex> lock(mutex_);
     sent_.push_back(m);
-    attachments_.push_back(bytes);
     if (answers_.empty()) return {true, {}};
     mail_result r = answers_.front();
     answers_.pop_front();
@@ -238,11 +232,6 @@ void recording_mailer::answer(mail_result r) {
 std::vector<mail_message> recording_mailer::sent() const {
     std::lock_guard<std::mutex> lock(mutex_);
     return sent_;
-}
-
-std::vector<QByteArray> recording_mailer::attachments() const {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return attachments_;
 }
 
 } // namespace platform

@@ -72,13 +72,10 @@ public:
     mail_result send(const mail_message& m) override;
     void answer(mail_result r);
     std::vector<mail_message> sent() const;
-    // The bytes of the attachment as they stood when the message was sent.
-    std::vector<QByteArray> attachments() const;
 
 private:
     mutable std::mutex mutex_;
     std::vector<mail_message> sent_;
-    std::vector<QByteArray> attachments_;
     std::deque<mail_result> answers_;
 };
 

@@ -84,6 +84,7 @@ protected:
         EXPECT_EQ(boxes[0].text,
                   QStringLiteral(
                       "Não foi possível enviaro e-mail verifique se os dados foram digitados corretamente!"));
+        EXPECT_EQ(boxes[0].style, platform::exclamation);
         EXPECT_EQ(frmviaemail::aberta(), nullptr);
     }
     void login(const char* user, const char* pass) {
