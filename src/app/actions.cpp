@@ -4,6 +4,7 @@
 #include "analysis/ui/income_actions.h"
 #include "analysis/ui/integrated_actions.h"
 #include "banks/ui/actions.h"
+#include "mail/ui/actions.h"
 #include "registers/ui/actions.h"
 #include "registers/ui/centres_actions.h"
 #include "shell/ui/actions.h"
@@ -18,6 +19,7 @@ void register_actions() {
     registers::register_centre_actions();
     analysis::register_integrated_actions();
     analysis::register_income_actions();
+    mail::register_actions();
 }
 
 } // namespace app

@@ -17,6 +17,12 @@ QString blanks(int n) {
     return QString(n, QLatin1Char(' '));
 }
 
+// Blanks added in place (the rows of a long list build no temporary texts).
+void pad(QString& line, int n) {
+    if (n < 0) throw negative_length{};
+    line.resize(line.size() + n, QLatin1Char(' '));
+}
+
 // Lines are gathered and handed to the device in large pieces; a table cut short still gets
 // every line that was complete.
 class line_writer {
@@ -98,22 +104,25 @@ c_relatorios::resultado c_relatorios::Exportar_listaparaTXT(QIODevice& saida, co
             out.line(line);
         }
         for (int r = 0; r < rows; ++r) {
-            line.clear();
+            line.resize(0); // keeps the room of the last line
             for (int c = 0; c < cols; ++c) {
                 const QString t = lista.text(r, c);
                 const int w = larguras_[std::size_t(c)];
                 if (c == 0) {
                     // the first column is never cut: a longer text has no room and fails
-                    line += t + blanks(w - int(t.size()));
+                    if (w < t.size()) throw negative_length{};
+                    line += t;
+                    pad(line, w - int(t.size()));
                 } else if (t.isEmpty()) {
-                    line += blanks(w);
+                    pad(line, w);
                 } else if (t.size() >= max_letra_) {
                     if (max_letra_ < 0) throw negative_length{};
-                    line += t.left(max_letra_);
+                    line += QStringView(t).left(max_letra_);
                 } else {
-                    line += t + blanks(w - int(t.size()));
+                    line += t;
+                    pad(line, w - int(t.size()));
                 }
-                line += two_blanks;
+                pad(line, 2);
             }
             out.line(line);
             bar(double(r + 1) / rows * 100.0);

@@ -432,8 +432,19 @@ void frmprincipal::gravar_exigirlogin(bool exigir) {
 
 void frmprincipal::CarregarConfigSoft() {
     using store::secao_config;
-    if (store::setting(secao_config, QStringLiteral("Iniciar"), QStringLiteral("0")) == QLatin1String("1"))
-        item(QStringLiteral("mnuiniciar"))->setChecked(true);
+    // the menu checks follow what the settings window may have written meanwhile
+    const auto setting_is = [](const QString& secao, const char* chave, const char* padrao,
+                               const char* valor) {
+        return store::setting(secao, QString::fromUtf8(chave), QString::fromUtf8(padrao)) ==
+               QLatin1String(valor);
+    };
+    item(QStringLiteral("mnuiniciar"))->setChecked(setting_is(secao_config, "Iniciar", "0", "1"));
+    item(QStringLiteral("mnuatualizarsaldo"))
+        ->setChecked(!setting_is(secao_config, "AtualizarSaldo", "1", "0"));
+    item(QStringLiteral("mnudicadia"))
+        ->setChecked(setting_is(store::secao_configuracoes, "Exibir dica do dia", "1", "1"));
+    item(QStringLiteral("mnualertavenc"))
+        ->setChecked(setting_is(secao_config, "AlertasVencimento", "1", "1"));
     list_view* listas[] = {lstpagar, lstreceber, lstmovimento, lstcaixabanco};
     const double tamanho =
         vb::val(store::setting(secao_config, QStringLiteral("TamanhoFonte"), QStringLiteral("10")));
