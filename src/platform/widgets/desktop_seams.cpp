@@ -2,6 +2,7 @@
 
 #include "platform/busy.h"
 #include "platform/print/printer_qt.h"
+#include "platform/widgets/button_keys.h"
 #include "platform/widgets/prompts_qt.h"
 #include "platform/widgets/shell_qt.h"
 
@@ -17,6 +18,7 @@ void install_desktop_seams() {
     set_prompts(&prompts);
     set_print_destination(&printing);
     set_shell(&shell);
+    button_keys::install();
     set_busy_hook([](bool on) {
         if (on)
             QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
