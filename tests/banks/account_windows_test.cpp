@@ -164,7 +164,7 @@ TEST_F(account_windows, a_quick_add_refills_the_open_entry_windows) {
     p->adicionarpagar();
     frmadicionar* a = frmadicionar::aberto();
     ASSERT_TRUE(a && e);
-    EXPECT_FALSE(child<QPushButton>(a, "cmdforncliinc")->isEnabled());
+    EXPECT_TRUE(child<QPushButton>(a, "cmdforncliinc")->isEnabled());
     click(a, "cmdbancoinc");
     EXPECT_FALSE(a->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     sempretopo(u"desativo"_s, e);

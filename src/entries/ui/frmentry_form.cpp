@@ -40,17 +40,18 @@ entry_form::entry_form(const QString& name, entries::list_source bank_list, QStr
     cmdbancoinc = button("cmdbancoinc", QStringLiteral("Cadastrar novo"));
     cmddescinc = button("cmddescinc", QStringLiteral("Cadastrar novo"));
     cmdforncliinc = button("cmdforncliinc", QStringLiteral("Cadastrar novo"));
-    // the windows of clients and suppliers are not part of this program yet
-    cmdforncliinc->setEnabled(false);
+    cmdforncliinc->setEnabled(shell::find_action(QStringLiteral("frmcadforn")) &&
+                              shell::find_action(QStringLiteral("frmcadcli")));
 
     connect(cmdinserir, &QPushButton::clicked, this, &entry_form::cmdinserir_click);
     connect(cmdcancelar, &QPushButton::clicked, this, &entry_form::cmdcancelar_click);
     connect(cmdbancoinc, &QPushButton::clicked, this, &entry_form::cmdbancoinc_click);
     connect(cmddescinc, &QPushButton::clicked, this, &entry_form::cmddescinc_click);
+    connect(cmdforncliinc, &QPushButton::clicked, this, &entry_form::cmdforncliinc_click);
     cmdbancoinc->setEnabled(shell::find_action(QStringLiteral("frmbanco")) != nullptr);
     cmddescinc->setEnabled(shell::find_action(QStringLiteral("frmcentrocusto")) &&
                            shell::find_action(QStringLiteral("frmcentrolucro")));
-    // an account or a centre added by a quick add: the box refilled and showing it
+    // an account, a centre, a supplier or a client added by a quick add: the box refilled and showing it
     connect(&shell::avisos::instance(), &shell::avisos::cadastrado, this,
             [this](shell::cadastro que, const QString& nome) {
                 if (descarregado_) return;
@@ -58,8 +59,15 @@ entry_form::entry_form(const QString& name, entries::list_source bank_list, QStr
                     centro_cadastrado(que == shell::cadastro::centrocusto, nome);
                     return;
                 }
-                if (que != shell::cadastro::banco) return;
-                if (isVisible()) {
+                if (que == shell::cadastro::fornecedor || que == shell::cadastro::cliente) {
+                    // the box takes the kind of the form that saved, whatever this window is dressed as
+                    if (isVisible()) {
+                        que == shell::cadastro::fornecedor ? carregarfornecedor() : carregarcliente();
+                        cbotipo->setEditText(nome);
+                    }
+                } else if (que != shell::cadastro::banco) {
+                    return;
+                } else if (isVisible()) {
                     carregarbanco();
                     cboorigem->setEditText(nome);
                 }
@@ -129,6 +137,11 @@ void entry_form::cmddescinc_click() {
     sempretopo(QStringLiteral("desativo"), this);
     shell::run_action(PIC1->isVisibleTo(this) ? QStringLiteral("frmcentrocusto")
                                               : QStringLiteral("frmcentrolucro"));
+}
+
+void entry_form::cmdforncliinc_click() {
+    sempretopo(QStringLiteral("desativo"), this);
+    shell::run_action(PIC1->isVisibleTo(this) ? QStringLiteral("frmcadforn") : QStringLiteral("frmcadcli"));
 }
 
 void entry_form::centro_cadastrado(bool custo, const QString& nome) {

@@ -21,6 +21,7 @@ public:
     void cmdcancelar_click();
     void cmdbancoinc_click();
     void cmddescinc_click();
+    void cmdforncliinc_click();
 
     // What the fields show.
     entries::entry_fields campos() const;

@@ -70,6 +70,13 @@ frmmultiplos::frmmultiplos()
     connect(optperiodo, &QRadioButton::clicked, this, [this] { txtdiasparcelas->setEnabled(true); });
 
     montar();
+    // a supplier or client stored meanwhile: the box refilled, without taking the new name
+    connect(&shell::avisos::instance(), &shell::avisos::cadastrado, this,
+            [this](shell::cadastro que, const QString&) {
+                if (descarregado_ || !isVisible()) return;
+                if (que == shell::cadastro::fornecedor) carregarfornecedor();
+                if (que == shell::cadastro::cliente) carregarcliente();
+            });
 
     // opening: today as the starting date
     abrir_no_topo();

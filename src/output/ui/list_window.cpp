@@ -6,8 +6,12 @@
 #include "platform/widgets/list_view.h"
 #include "store/program_dir.h"
 
+#include "platform/errors.h"
+
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QPalette>
 #include <QProgressBar>
 #include <QToolBar>
@@ -38,6 +42,43 @@ QAction* list_window::novo_botao(const char* key, const QString& caption, std::f
     a->setObjectName(QString::fromLatin1(key));
     connect(a, &QAction::triggered, this, [run = std::move(run)] { run(); });
     return a;
+}
+
+QIcon icone_tema(const QStringList& nomes, QStyle::StandardPixmap reserva) {
+    // without a desktop session Qt names no theme: the one installed with the system serves
+    const auto sem_tema = [](const QString& n) { return n.isEmpty() || n == QLatin1String("hicolor"); };
+    if (sem_tema(QIcon::themeName()) && sem_tema(QIcon::fallbackThemeName()))
+        QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
+    for (const QString& n : nomes) {
+        if (QIcon::hasThemeIcon(n)) return QIcon::fromTheme(n);
+        const QString simbolico = n + QStringLiteral("-symbolic");
+        if (QIcon::hasThemeIcon(simbolico)) return QIcon::fromTheme(simbolico);
+    }
+    return QApplication::style()->standardIcon(reserva);
+}
+
+QAction* list_window::novo_botao(const char* key, const QString& caption, std::function<void()> run,
+                                 const QStringList& icones, QStyle::StandardPixmap reserva) {
+    QAction* a = novo_botao(key, caption, std::move(run));
+    a->setIcon(icone_tema(icones, reserva));
+    a->setToolTip(caption);
+    tbrbarra->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    tbrbarra->setIconSize(QSize(24, 24));
+    return a;
+}
+
+QAction* list_window::novo_item(QMenu* menu, const char* name, const QString& caption,
+                                std::function<void()> run) {
+    QAction* a = menu->addAction(caption);
+    a->setObjectName(QString::fromLatin1(name));
+    QObject::connect(a, &QAction::triggered, menu, [run = std::move(run)] { platform::ignore_errors(run); });
+    return a;
+}
+
+void list_window::ligar_popup(QMenu* menu) {
+    lista_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(lista_, &QWidget::customContextMenuRequested, menu,
+            [this, menu](const QPoint& at) { menu->popup(lista_->viewport()->mapToGlobal(at)); });
 }
 
 QAction* list_window::botao(const QString& key) const {

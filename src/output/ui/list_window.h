@@ -7,7 +7,10 @@
 #include "output/c_relatorios.h"
 #include "output/report_frame.h"
 
+#include <QIcon>
 #include <QPixmap>
+#include <QStringList>
+#include <QStyle>
 #include <QWidget>
 
 #include <functional>
@@ -15,9 +18,13 @@
 
 class QAction;
 class QLabel;
+class QMenu;
 class QProgressBar;
 class QToolBar;
 class list_view;
+
+// An icon of the desktop's theme (the first of the names it has), or the style's own picture.
+QIcon icone_tema(const QStringList& nomes, QStyle::StandardPixmap reserva);
 
 class list_window : public QWidget {
     Q_OBJECT
@@ -49,6 +56,15 @@ protected:
 
     // A toolbar button: objectName and key are the same word.
     QAction* novo_botao(const char* key, const QString& caption, std::function<void()> run);
+    // The same with an icon of the desktop's theme; the bar then shows icons over the captions.
+    QAction* novo_botao(const char* key, const QString& caption, std::function<void()> run,
+                        const QStringList& icones, QStyle::StandardPixmap reserva);
+    // An item of the list's pop-up menu, named for tests and wiring; a failure it lets escape is
+    // dropped rather than reaching the event loop.
+    static QAction* novo_item(QMenu* menu, const char* name, const QString& caption,
+                              std::function<void()> run);
+    // The right mouse button on the list opens the menu.
+    void ligar_popup(QMenu* menu);
     // fundo.gif of the program's folder behind the list's rows; a missing file is ignored.
     void carregar_fundo();
     output::c_relatorios& exportador() { return relatorio_; }
