@@ -1,0 +1,17 @@
+#include "analysis/ui/forecast_actions.h"
+
+#include "analysis/ui/frmfluxo.h"
+#include "shell/principal_api.h"
+
+namespace analysis {
+
+void register_forecast_actions() {
+    shell::register_action(QStringLiteral("mnuretfxgeral"),
+                           [] { frmconfluxo::abrir(QStringLiteral("geral")); });
+    shell::register_action(QStringLiteral("mnuretfxpagar"),
+                           [] { frmconfluxo::abrir(QStringLiteral("pagar")); });
+    shell::register_action(QStringLiteral("mnuretfxreceber"),
+                           [] { frmconfluxo::abrir(QStringLiteral("receber")); });
+}
+
+} // namespace analysis
