@@ -1,6 +1,7 @@
 #include "analysis/ui/forecast_actions.h"
 
 #include "analysis/ui/frmfluxo.h"
+#include "analysis/ui/frmprojecao.h"
 #include "shell/principal_api.h"
 
 namespace analysis {
@@ -12,6 +13,8 @@ void register_forecast_actions() {
                            [] { frmconfluxo::abrir(QStringLiteral("pagar")); });
     shell::register_action(QStringLiteral("mnuretfxreceber"),
                            [] { frmconfluxo::abrir(QStringLiteral("receber")); });
+    shell::register_action(QStringLiteral("mnumetadesp"), [] { frmprojecao::instance()->resetar(true); });
+    shell::register_action(QStringLiteral("mnumetarec"), [] { frmprojecao::instance()->resetar(false); });
 }
 
 } // namespace analysis

@@ -71,6 +71,8 @@ TEST_F(menus, every_item_exists_with_its_caption_and_only_working_items_are_enab
     working += {"mnuextrato", "mnulucrosdesp"};
     // the cash flow forecast
     working += {"mnuretfxgeral", "mnuretfxpagar", "mnuretfxreceber"};
+    // projections and targets
+    working += {"mnumetadesp", "mnumetarec"};
     // the settings window, backup and restore, the e-mail windows
     working += {"mnuconfigsoft", "mnurealizarbak", "mnurestbak", "mnuretviaemail", "mnuestviaemail"};
     // the clients and suppliers and their histories
