@@ -1,5 +1,6 @@
 #include "analysis/ui/forecast_actions.h"
 
+#include "analysis/ui/frmcomparacao.h"
 #include "analysis/ui/frmfluxo.h"
 #include "analysis/ui/frmprojecao.h"
 #include "shell/principal_api.h"
@@ -15,6 +16,8 @@ void register_forecast_actions() {
                            [] { frmconfluxo::abrir(QStringLiteral("receber")); });
     shell::register_action(QStringLiteral("mnumetadesp"), [] { frmprojecao::instance()->resetar(true); });
     shell::register_action(QStringLiteral("mnumetarec"), [] { frmprojecao::instance()->resetar(false); });
+    shell::register_action(QStringLiteral("mnucompdesp"), [] { frmcomparadesp::instance()->resetar(); });
+    shell::register_action(QStringLiteral("mnucomprec"), [] { frmcompararec::instance()->resetar(); });
 }
 
 } // namespace analysis

@@ -2,7 +2,7 @@
 
 namespace analysis {
 
-// The cash flow and projection windows on their main-menu items.
+// The cash flow, projection and comparison windows on their main-menu items.
 void register_forecast_actions();
 
 } // namespace analysis
