@@ -1,6 +1,7 @@
 #include "app/actions.h"
 
 #include "analysis/ui/actions.h"
+#include "analysis/ui/forecast_actions.h"
 #include "analysis/ui/income_actions.h"
 #include "analysis/ui/integrated_actions.h"
 #include "banks/ui/actions.h"
@@ -19,6 +20,7 @@ void register_actions() {
     registers::register_centre_actions();
     analysis::register_integrated_actions();
     analysis::register_income_actions();
+    analysis::register_forecast_actions();
     mail::register_actions();
 }
 

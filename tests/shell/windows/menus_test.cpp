@@ -69,6 +69,12 @@ TEST_F(menus, every_item_exists_with_its_caption_and_only_working_items_are_enab
                 "mnugradesprec",     "mnuestsoftware"};
     // the bank statement, income against expenses
     working += {"mnuextrato", "mnulucrosdesp"};
+    // the cash flow forecast
+    working += {"mnuretfxgeral", "mnuretfxpagar", "mnuretfxreceber"};
+    // projections and targets
+    working += {"mnumetadesp", "mnumetarec"};
+    // the comparison of months and years
+    working += {"mnucompdesp", "mnucomprec"};
     // the settings window, backup and restore, the e-mail windows
     working += {"mnuconfigsoft", "mnurealizarbak", "mnurestbak", "mnuretviaemail", "mnuestviaemail"};
     // the clients and suppliers and their histories
