@@ -4,6 +4,7 @@
 #include "analysis/ui/forecast_actions.h"
 #include "analysis/ui/income_actions.h"
 #include "analysis/ui/integrated_actions.h"
+#include "analysis/ui/report_actions.h"
 #include "banks/ui/actions.h"
 #include "mail/ui/actions.h"
 #include "registers/ui/actions.h"
@@ -22,6 +23,7 @@ void register_actions() {
     analysis::register_income_actions();
     analysis::register_forecast_actions();
     mail::register_actions();
+    analysis::register_report_actions();
 }
 
 } // namespace app

@@ -1,0 +1,22 @@
+#include "analysis/ui/report_actions.h"
+
+#include "analysis/ui/frmconfrelatorio.h"
+#include "shell/principal_api.h"
+
+namespace analysis {
+
+void register_report_actions() {
+    const struct {
+        const char* item;
+        shell::ledger pagina;
+    } paginas[] = {{"mnuretpagar", shell::ledger::pagar},
+                   {"mnuretreceber", shell::ledger::receber},
+                   {"mnuretbancario", shell::ledger::bancario}};
+    for (const auto& p : paginas) {
+        const shell::ledger l = p.pagina;
+        shell::register_action(QString::fromLatin1(p.item),
+                               [l] { frmconfrelatorio::instance()->mostrar_pagina(l); });
+    }
+}
+
+} // namespace analysis
