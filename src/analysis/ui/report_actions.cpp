@@ -1,6 +1,7 @@
 #include "analysis/ui/report_actions.h"
 
 #include "analysis/ui/frmconfrelatorio.h"
+#include "analysis/ui/frmgerenciamento.h"
 #include "shell/principal_api.h"
 
 namespace analysis {
@@ -17,6 +18,10 @@ void register_report_actions() {
         shell::register_action(QString::fromLatin1(p.item),
                                [l] { frmconfrelatorio::instance()->mostrar_pagina(l); });
     }
+    shell::register_action(QStringLiteral("mnugerendesp"),
+                           [] { frmgerenciamento::instance()->mostrar_painel(shell::ledger::pagar); });
+    shell::register_action(QStringLiteral("mnugerenlucros"),
+                           [] { frmgerenciamento::instance()->mostrar_painel(shell::ledger::receber); });
 }
 
 } // namespace analysis
