@@ -2,6 +2,7 @@
 
 #include "analysis/ui/frmconfrelatorio.h"
 #include "analysis/ui/frmgerenciamento.h"
+#include "analysis/ui/frmpormes.h"
 #include "shell/principal_api.h"
 
 namespace analysis {
@@ -22,6 +23,14 @@ void register_report_actions() {
                            [] { frmgerenciamento::instance()->mostrar_painel(shell::ledger::pagar); });
     shell::register_action(QStringLiteral("mnugerenlucros"),
                            [] { frmgerenciamento::instance()->mostrar_painel(shell::ledger::receber); });
+    shell::register_action(QStringLiteral("mnuviscontmespagar"),
+                           [] { frmpormes::instance()->abrir(shell::ledger::pagar); });
+    shell::register_action(QStringLiteral("mnuviscontmesreceber"),
+                           [] { frmpormes::instance()->abrir(shell::ledger::receber); });
+    shell::register_action(QStringLiteral("mnuvisvencpagar"),
+                           [] { frmvenpormes::instance()->abrir(shell::ledger::pagar); });
+    shell::register_action(QStringLiteral("mnuvisvencreceber"),
+                           [] { frmvenpormes::instance()->abrir(shell::ledger::receber); });
 }
 
 } // namespace analysis
