@@ -1,6 +1,7 @@
 #include "analysis/ui/report_actions.h"
 
 #include "analysis/ui/frmconfrelatorio.h"
+#include "analysis/ui/frmconfrelatorio2.h"
 #include "analysis/ui/frmgerenciamento.h"
 #include "analysis/ui/frmpormes.h"
 #include "shell/principal_api.h"
@@ -19,6 +20,10 @@ void register_report_actions() {
         shell::register_action(QString::fromLatin1(p.item),
                                [l] { frmconfrelatorio::instance()->mostrar_pagina(l); });
     }
+    shell::register_action(QStringLiteral("mnuretcentrocusto"),
+                           [] { frmconfrelatorio2::instance()->mostrar_pagina(consolidado::centro_custo); });
+    shell::register_action(QStringLiteral("mnuretcentrolucro"),
+                           [] { frmconfrelatorio2::instance()->mostrar_pagina(consolidado::centro_lucro); });
     shell::register_action(QStringLiteral("mnugerendesp"),
                            [] { frmgerenciamento::instance()->mostrar_painel(shell::ledger::pagar); });
     shell::register_action(QStringLiteral("mnugerenlucros"),

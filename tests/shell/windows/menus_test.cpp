@@ -79,10 +79,10 @@ TEST_F(menus, every_item_exists_with_its_caption_and_only_working_items_are_enab
     working += {"mnuconfigsoft", "mnurealizarbak", "mnurestbak", "mnuretviaemail", "mnuestviaemail"};
     // the clients and suppliers and their histories
     working += {"mnuclientes", "mnufornecedores", "mnufincli", "mnufinforn"};
-    // the configured reports, the management window, the per-month views
-    working += {"mnuretpagar",          "mnuretreceber",   "mnuretbancario",
-                "mnugerendesp",         "mnugerenlucros",  "mnuviscontmespagar",
-                "mnuviscontmesreceber", "mnuvisvencpagar", "mnuvisvencreceber"};
+    // the configured and consolidated reports, the management window, the per-month views
+    working += {"mnuretpagar",          "mnuretcentrocusto", "mnuretcentrolucro", "mnuretreceber",
+                "mnuretbancario",       "mnugerendesp",      "mnugerenlucros",    "mnuviscontmespagar",
+                "mnuviscontmesreceber", "mnuvisvencpagar",   "mnuvisvencreceber"};
     int leaves = 0;
     for (const auto& e : shell::main_menu()) {
         if (e.name == QLatin1String("-")) continue;
