@@ -49,7 +49,8 @@ void BM_bare_scan(benchmark::State& state) {
     const QString text = consulta();
     std::int64_t rows = 0;
     for (auto _ : state) {
-        sqlite3_stmt* st = store::conexao->prepare(text);
+        const sql::statement_ptr owned = store::conexao->prepare(text);
+        sqlite3_stmt* st = owned.get();
         const int n = sqlite3_column_count(st);
         std::size_t bytes = 0;
         rows = 0;
@@ -60,7 +61,6 @@ void BM_bare_scan(benchmark::State& state) {
             }
             ++rows;
         }
-        sqlite3_finalize(st);
         benchmark::DoNotOptimize(bytes);
     }
     state.SetItemsProcessed(state.iterations() * rows);

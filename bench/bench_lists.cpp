@@ -33,7 +33,8 @@ const QString statement = QStringLiteral("SELECT * FROM pagar where (estatus lik
 void BM_bare_scan(benchmark::State& state) {
     for (auto _ : state) {
         store::conectarbanco();
-        sqlite3_stmt* st = store::conexao->prepare(statement);
+        const sql::statement_ptr owned = store::conexao->prepare(statement);
+        sqlite3_stmt* st = owned.get();
         const int n = sqlite3_column_count(st);
         long rows = 0;
         while (sqlite3_step(st) == SQLITE_ROW) {
@@ -41,7 +42,6 @@ void BM_bare_scan(benchmark::State& state) {
                 benchmark::DoNotOptimize(sqlite3_column_text(st, c));
             ++rows;
         }
-        sqlite3_finalize(st);
         state.counters["rows"] = double(rows);
     }
 }

@@ -22,16 +22,13 @@ QString info_column(const QString& txtinfo) {
 }
 
 QString opening_balance_text(const QString& saldo) {
-    try {
-        if (const auto c = vb::ccur(saldo)) return vb::format_money_prefixed(*c, QStringLiteral("R$ "));
-    } catch (const vb::overflow_error&) {
-    }
-    return saldo;
+    const auto c = vb::ccur(saldo);
+    return c ? vb::format_money_prefixed(*c) : saldo;
 }
 
 QString saldo_to_write(const QString& saldoselecionado, const QString& txtvalor, const QString& txtvalorini) {
     const bool unchanged = vb::ccur_or_throw(saldoselecionado) == vb::ccur_or_throw(txtvalor);
-    return vb::reformat_money_text(unchanged ? txtvalorini : txtvalor);
+    return vb::reformat_money_checked(unchanged ? txtvalorini : txtvalor);
 }
 
 } // namespace banks

@@ -1,5 +1,6 @@
 #include "banks/balance.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
 #include "store/conexao.h"
@@ -12,29 +13,6 @@ namespace {
 const QString concluido_e_origem = QStringLiteral("WHERE estatus like ('Concluído') AND origem like ('");
 const QString transferencia = QStringLiteral("') and movimento like ('Transferência entre contas')");
 const QString line = QStringLiteral("\n");
-
-// A failed addition is skipped, as the old loaders ran with errors ignored.
-void add_to(vb::currency& sum, vb::currency v) {
-    try {
-        sum += v;
-    } catch (const vb::overflow_error&) {
-    }
-}
-
-void subtract_from(vb::currency& sum, vb::currency v) {
-    try {
-        sum -= v;
-    } catch (const vb::overflow_error&) {
-    }
-}
-
-vb::currency amount_or_zero(const QString& text) {
-    try {
-        return vb::ccur(text).value_or(vb::currency());
-    } catch (const vb::overflow_error&) {
-        return vb::currency();
-    }
-}
 
 enum class effect { less, more, by_kind };
 
@@ -60,18 +38,9 @@ std::array<QString, 5> balance_statements(const QString& nome, const std::option
 }
 
 std::optional<vb::currency> rounded_amount(const QString& stored) {
-    std::optional<vb::currency> c;
-    try {
-        c = vb::ccur(stored);
-    } catch (const vb::overflow_error&) {
-        return std::nullopt;
-    }
+    const auto c = vb::ccur(stored);
     if (!c) return std::nullopt;
-    // half away from zero at the cent, as the format rounds
-    const std::int64_t raw = c->raw();
-    const std::int64_t mag = raw < 0 ? -raw : raw;
-    const std::int64_t cents = mag / 100 + ((mag % 100) >= 50 ? 1 : 0);
-    return vb::currency::from_raw((raw < 0 ? -cents : cents) * 100);
+    return vb::round_to_cents(*c);
 }
 
 int walk_account(const sql::connection_ptr& conn, const QString& nome, const std::optional<period>& periodo,
@@ -124,11 +93,11 @@ account_balance compute_balance(const sql::connection_ptr& conn, const QString& 
                 return;
             }
         }
-        add_to(*sum, *v);
+        vb::add_or_keep(*sum, *v);
         if (e == effect::more)
-            add_to(b.total, *v);
+            vb::add_or_keep(b.total, *v);
         else
-            subtract_from(b.total, *v);
+            vb::subtract_or_keep(b.total, *v);
     });
     return b;
 }
@@ -138,13 +107,7 @@ QString list_amount(vb::currency v) {
 }
 
 QString list_amount_text(const QString& stored) {
-    QString shown;
-    try {
-        shown = vb::reformat_money_text(stored);
-    } catch (const vb::overflow_error&) {
-        shown = stored;
-    }
-    return QStringLiteral("R$ ") + shown;
+    return QStringLiteral("R$ ") + vb::reformat_money_text(stored);
 }
 
 bool atualizar_saldo() {
@@ -155,13 +118,14 @@ bool atualizar_saldo() {
 std::vector<QStringList> account_rows(bool atualizar, const account_rows_hooks& hooks) {
     std::vector<QStringList> rows;
     store::conectarbanco();
-    try {
+    // errors ignored: what was read stays
+    platform::ignore_errors([&] {
         sql::recordset rs;
         rs.open(QStringLiteral("SELECT * FROM banco"), store::conexao, sql::keyset, sql::read_only);
         const int banco = rs.index_of(store::coluna::banco);
         const int informacoes = rs.index_of(store::coluna::informacoes);
         const int saldo = rs.index_of(store::coluna::saldo);
-        if (rs.eof()) return rows;
+        if (rs.eof()) return;
         if (atualizar && hooks.before_walk) hooks.before_walk(int(rs.record_count()));
         rows.reserve(std::size_t(rs.record_count()));
         int feitas = 0;
@@ -178,9 +142,7 @@ std::vector<QStringList> account_rows(bool atualizar, const account_rows_hooks& 
             rows.push_back({nome, list_amount(b.total), info, list_amount_text(inicial)});
             if (hooks.progress) hooks.progress(++feitas);
         }
-    } catch (const sql::error&) {
-        // errors ignored: what was read stays
-    }
+    });
     return rows;
 }
 
@@ -189,16 +151,13 @@ QString resumo_caixa(const std::vector<QStringList>& rows) {
     vb::currency soma_inicial, soma_atual, soma_movimento;
     for (const QStringList& row : rows) {
         const auto cell = [&row](int i) { return i < row.size() ? row[i] : QString(); };
-        const vb::currency inicial = amount_or_zero(cell(3));
-        const vb::currency atual = amount_or_zero(cell(1));
-        vb::currency movimento;
-        try {
-            movimento = atual - inicial;
-        } catch (const vb::overflow_error&) {
-        }
-        add_to(soma_inicial, inicial);
-        add_to(soma_atual, atual);
-        add_to(soma_movimento, movimento);
+        const vb::currency inicial = vb::money_of(cell(3));
+        const vb::currency atual = vb::money_of(cell(1));
+        vb::currency movimento = atual;
+        if (!vb::subtract_or_keep(movimento, inicial)) movimento = {};
+        vb::add_or_keep(soma_inicial, inicial);
+        vb::add_or_keep(soma_atual, atual);
+        vb::add_or_keep(soma_movimento, movimento);
         out += QStringLiteral("Caixa/Banco: ") + cell(0) + QLatin1Char('(') + cell(2) + QLatin1Char(')') +
                line + QStringLiteral("O saldo neste banco inicio com R$ ") + vb::cstr(inicial) + line +
                QStringLiteral("O saldo atual é R$ ") + vb::format_money(atual) + line +

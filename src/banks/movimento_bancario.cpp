@@ -1,5 +1,6 @@
 #include "banks/movimento_bancario.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
@@ -103,10 +104,6 @@ QString movement_by_code(double codigo) {
            QStringLiteral("')");
 }
 
-QString save_error_message(const QString& description) {
-    return QStringLiteral("Ocorreu o seguinte erro ao tentar cadastrar os dados: ") + description;
-}
-
 save_outcome save_movement(const movement_twin& twin, double codigo, const movement_fields& f) {
     save_outcome out;
     try {
@@ -129,26 +126,23 @@ save_outcome save_movement(const movement_twin& twin, double codigo, const movem
         rs.update();
         rs.close();
         out.ok = true;
-    } catch (const sql::error& e) {
-        out.error = e.description();
     } catch (const std::exception& e) {
-        out.error = QString::fromUtf8(e.what());
+        out.error = platform::error_text(e);
     }
     return out;
 }
 
 QStringList account_names(const movement_twin& twin) {
     QStringList names;
-    try {
+    // errors ignored: the boxes offer what was read
+    platform::ignore_errors([&] {
         store::conectarbanco();
         sql::recordset rs;
         rs.open(twin.accounts_statement, store::conexao, sql::keyset, sql::read_only);
         const int col = rs.index_of(store::coluna::banco);
         for (; !rs.eof(); rs.move_next())
             names << rs.text(col);
-    } catch (const std::exception&) {
-        // errors ignored: the boxes offer what was read
-    }
+    });
     return names;
 }
 
@@ -164,12 +158,7 @@ std::optional<shown_movement> read_movement(double codigo) {
         m.movimento = rs.text(col::movimento);
         m.origem = rs.text(col::origem);
         m.destino = rs.text(col::destino);
-        const QString valor = rs.text(col::valor);
-        try {
-            m.valor = QStringLiteral("R$ ") + vb::reformat_money_text(valor);
-        } catch (const vb::overflow_error&) {
-            m.valor = QStringLiteral("R$ ") + valor;
-        }
+        m.valor = QStringLiteral("R$ ") + vb::reformat_money_text(rs.text(col::valor));
         m.estatus = rs.text(col::estatus);
         m.informacoes = rs.text(col::informacoes);
         return m;

@@ -70,13 +70,12 @@ std::vector<std::pair<QString, QString>> movement_columns(const movement_fields&
 
 // "SELECT * FROM bancario where(código like '12')"
 QString movement_by_code(double codigo);
-QString save_error_message(const QString& description);
 
 struct save_outcome {
     bool ok = false;
     // The row to write was opened (the editing twin marks an empty origin only from there on).
     bool row_opened = false;
-    QString error; // the description for save_error_message
+    QString error; // the failure's description, for store::save_error_message
 };
 
 // Connects and writes the movement: a new row, or the row of codigo rewritten. Never throws.

@@ -29,42 +29,40 @@ QString blank_fields_message(const entry_fields& f) {
     return QStringLiteral("Os seguintes dados estão em branco: ") + QLatin1Char('\n') + faltando;
 }
 
-kind kind_of_caption(const QString& caption, const QString& expense_caption) {
-    return caption.toLower() == expense_caption ? kind::despesa : kind::receita;
-}
-
-QString table_of(kind k) {
-    return k == kind::despesa ? store::tabela::pagar : store::tabela::receber;
-}
-
-QString name_column(kind k) {
-    return k == kind::despesa ? store::coluna::fornecedor : store::coluna::cliente;
+ledger kind_of_caption(const QString& caption, const QString& expense_caption) {
+    return caption.toLower() == expense_caption ? ledger::pagar : ledger::receber;
 }
 
 QString with_trailing_blank(const QString& text) {
     return trim_blanks(text) + QLatin1Char(' ');
 }
 
-void write_columns(sql::recordset& rs, kind k, const entry_fields& f) {
+void write_row(sql::recordset& rs, ledger k, const entry_fields& f, const QString& informacoes_,
+               const QString& valor_, const QString& vencimento_) {
     using namespace store::coluna;
     rs.set(estatus, f.estatus);
     rs.set(origem, f.origem);
-    rs.set(name_column(k), f.nome);
+    rs.set(shell::traits(k).contato, f.nome);
     rs.set(data, vb::format_date_text(f.data, ymd_format));
     rs.set(descricao, f.descricao);
     rs.set(documento, with_trailing_blank(f.documento));
-    rs.set(informacoes, with_trailing_blank(f.informacoes));
-    rs.set(valor, vb::reformat_money_text(f.valor));
-    rs.set(vencimento, vb::format_date_text(f.vencimento, ymd_format));
+    rs.set(informacoes, informacoes_);
+    rs.set(valor, valor_);
+    rs.set(vencimento, vencimento_);
     rs.set(moeda, f.moeda);
 }
 
-QString entry_statement(kind k, const QString& codigo) {
-    return QStringLiteral("SELECT * FROM ") + table_of(k) + QStringLiteral(" where(código like '") +
-           sql::value(codigo) + QStringLiteral("')");
+void write_columns(sql::recordset& rs, ledger k, const entry_fields& f) {
+    write_row(rs, k, f, with_trailing_blank(f.informacoes), vb::reformat_money_checked(f.valor),
+              vb::format_date_text(f.vencimento, ymd_format));
 }
 
-entry_row read_columns(const sql::recordset& rs, kind k) {
+QString entry_statement(ledger k, const QString& codigo) {
+    return QStringLiteral("SELECT * FROM ") + shell::traits(k).tabela +
+           QStringLiteral(" where(código like '") + sql::value(codigo) + QStringLiteral("')");
+}
+
+entry_row read_columns(const sql::recordset& rs, ledger k) {
     using namespace store::coluna;
     const auto read = [&rs](const QString& column, auto shown) {
         read_field r;
@@ -78,11 +76,11 @@ entry_row read_columns(const sql::recordset& rs, kind k) {
     };
     const auto as_is = [](const QString& t) { return t; };
     const auto as_date = [](const QString& t) { return vb::format_date_text(t, dmy_format); };
-    const auto as_money = [](const QString& t) { return vb::reformat_money_text(t); };
+    const auto as_money = [](const QString& t) { return vb::reformat_money_checked(t); };
     entry_row row;
     row.estatus = read(estatus, as_is);
     row.origem = read(origem, as_is);
-    row.nome = read(name_column(k), as_is);
+    row.nome = read(shell::traits(k).contato, as_is);
     row.data = read(data, as_date);
     row.descricao = read(descricao, as_is);
     row.documento = read(documento, as_is);
@@ -129,23 +127,23 @@ QStringList read_names(const list_source& s) {
     return names;
 }
 
-dress dress_for_adding(kind k) {
-    if (k == kind::despesa)
+dress dress_for_adding(ledger k) {
+    if (k == ledger::pagar)
         return {QStringLiteral("Adicionar Contas a pagar - Despesa"), true,
                 QStringLiteral("&Inserir despesa")};
     return {QStringLiteral("Adicionar Contas a receber - Receita"), false,
             QStringLiteral("&Inserir receita")};
 }
 
-dress dress_for_editing(kind k) {
+dress dress_for_editing(ledger k) {
     // the title still reads "Adicionar": only the button tells editing from adding
     dress d = dress_for_adding(k);
-    d.botao = k == kind::despesa ? QStringLiteral("&Editar despesa") : QStringLiteral("&Editar receita");
+    d.botao = k == ledger::pagar ? QStringLiteral("&Editar despesa") : QStringLiteral("&Editar receita");
     return d;
 }
 
-QString saved_message(kind k) {
-    return k == kind::despesa ? QStringLiteral("Despesa cadastrada com sucesso!")
+QString saved_message(ledger k) {
+    return k == ledger::pagar ? QStringLiteral("Despesa cadastrada com sucesso!")
                               : QStringLiteral("Receita cadastrada com sucesso!");
 }
 

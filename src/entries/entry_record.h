@@ -5,13 +5,15 @@
 
 #include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
+#include "shell/ledger.h"
 
 #include <QString>
 #include <QStringList>
 
 namespace entries {
 
-enum class kind { despesa, receita };
+// An entry belongs to the pagar (expense) or the receber (income) ledger.
+using shell::ledger;
 
 // What the boxes of an entry window show. Dates are "dd/mm/yyyy", or empty when the field holds
 // no date.
@@ -36,10 +38,7 @@ QString blank_fields_message(const entry_fields& f);
 
 // The kind a window writes, told by its action button: the caption, lower-cased, against the
 // expense caption ("&inserir despesa", "&editar despesa"); anything else is an income.
-kind kind_of_caption(const QString& caption, const QString& expense_caption);
-
-QString table_of(kind k);
-QString name_column(kind k);
+ledger kind_of_caption(const QString& caption, const QString& expense_caption);
 
 // The text stored for a free text column that may be blank: trimmed, and one blank behind.
 QString with_trailing_blank(const QString& text);
@@ -47,10 +46,13 @@ QString with_trailing_blank(const QString& text);
 // Sets the ten columns on the record set's new or current row, in their fixed order: estatus,
 // origem, fornecedor/cliente, data, descricao, documento, informacoes, Valor, vencimento, moeda.
 // Throws sql::error (and vb::overflow_error for an amount out of range).
-void write_columns(sql::recordset& rs, kind k, const entry_fields& f);
+void write_columns(sql::recordset& rs, ledger k, const entry_fields& f);
+// The same order, with informacoes, Valor and vencimento written as given (an instalment's).
+void write_row(sql::recordset& rs, ledger k, const entry_fields& f, const QString& informacoes,
+               const QString& valor, const QString& vencimento);
 
 // "SELECT * FROM pagar where(código like '12')", the key compared as text.
-QString entry_statement(kind k, const QString& codigo);
+QString entry_statement(ledger k, const QString& codigo);
 
 // A row as the edit window shows it: dates in "dd/mm/yyyy", the amount in "##,##0.00". A column
 // that cannot be read is not ok: its field keeps what it had.
@@ -61,7 +63,7 @@ struct read_field {
 struct entry_row {
     read_field estatus, origem, nome, data, descricao, documento, informacoes, valor, vencimento, moeda;
 };
-entry_row read_columns(const sql::recordset& rs, kind k);
+entry_row read_columns(const sql::recordset& rs, ledger k);
 
 // The statements that fill the boxes, with the column they read.
 struct list_source {
@@ -85,10 +87,10 @@ struct dress {
     bool despesa;
     QString botao;
 };
-dress dress_for_adding(kind k);
-dress dress_for_editing(kind k);
+dress dress_for_adding(ledger k);
+dress dress_for_editing(ledger k);
 
 // The message of the continuing mode.
-QString saved_message(kind k);
+QString saved_message(ledger k);
 
 } // namespace entries

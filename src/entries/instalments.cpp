@@ -24,7 +24,7 @@ double add_month(double running) {
     // the date passes through its "dd/mm/yyyy" text first: the fraction of a day falls away
     const QDate next = date_of_serial(running).addMonths(1);
     if (next.year() > 9999) throw vb::overflow_error();
-    return date_serial(next);
+    return serial_of_date(next);
 }
 
 } // namespace
@@ -47,7 +47,7 @@ QString count_message(double parcelas, double dias) {
     return {};
 }
 
-double date_serial(const QDate& d) {
+double serial_of_date(const QDate& d) {
     return double(serial_zero.daysTo(d));
 }
 
@@ -72,32 +72,22 @@ QString instalment_info(const QString& notes, double i, double n) {
            QStringLiteral(" de ") + vb::cstr(n);
 }
 
-void write_instalment(sql::recordset& rs, kind k, const entry_fields& f, double i, double n,
+void write_instalment(sql::recordset& rs, ledger k, const entry_fields& f, double i, double n,
                       const QDate& due) {
-    using namespace store::coluna;
-    rs.set(estatus, f.estatus);
-    rs.set(origem, f.origem);
-    rs.set(name_column(k), f.nome);
-    rs.set(data, vb::format_date_text(f.data, QStringLiteral("yyyy/mm/dd")));
-    rs.set(descricao, f.descricao);
-    rs.set(documento, with_trailing_blank(f.documento));
-    rs.set(informacoes, instalment_info(f.informacoes, i, n));
-    rs.set(valor, f.valor);
-    rs.set(vencimento, vb::ymd(due));
-    rs.set(moeda, f.moeda);
+    write_row(rs, k, f, instalment_info(f.informacoes, i, n), f.valor, vb::ymd(due));
 }
 
-void write_series(kind k, const entry_fields& f, const series_plan& p,
+void write_series(ledger k, const entry_fields& f, const series_plan& p,
                   const std::function<void(double)>& progress) {
     store::conectarbanco();
-    const bool despesa = k == kind::despesa;
+    const bool despesa = k == ledger::pagar;
     std::optional<sql::recordset> rs;
     const auto abrir = [&] {
         rs.emplace();
-        rs->open(table_of(k), store::conexao, sql::keyset, sql::pessimistic);
+        rs->open(shell::traits(k).tabela, store::conexao, sql::keyset, sql::pessimistic);
     };
     if (despesa) abrir();
-    double running = date_serial(p.inicio);
+    double running = serial_of_date(p.inicio);
     for (double i = 1; i <= p.parcelas; i += 1) {
         if (progress) progress(i);
         running = next_due(running, p, i);
@@ -109,8 +99,8 @@ void write_series(kind k, const entry_fields& f, const series_plan& p,
     if (rs) rs->close();
 }
 
-dress dress_for_series(kind k) {
-    if (k == kind::despesa)
+dress dress_for_series(ledger k) {
+    if (k == ledger::pagar)
         return {QStringLiteral("Adicionar Contas a pagar / multiplas contas"), true,
                 QStringLiteral("&Inserir despesa")};
     return {QStringLiteral("Adicionar Contas a receber / multiplas contas"), false,

@@ -37,7 +37,7 @@ double read_count(const QString& text);
 QString count_message(double parcelas, double dias);
 
 // Dates as the old runtime held them: days since 30/12/1899, the fraction being the time of day.
-double date_serial(const QDate& d);
+double serial_of_date(const QDate& d);
 // The day of a serial, the fraction dropped. Outside 01/01/100 .. 31/12/9999 throws
 // vb::overflow_error.
 QDate date_of_serial(double serial);
@@ -51,17 +51,17 @@ QString instalment_info(const QString& notes, double i, double n);
 
 // Sets the ten columns of one instalment in their fixed order. Unlike a single entry, the amount
 // goes as typed and an empty account stays empty.
-void write_instalment(sql::recordset& rs, kind k, const entry_fields& f, double i, double n,
+void write_instalment(sql::recordset& rs, ledger k, const entry_fields& f, double i, double n,
                       const QDate& vencimento);
 
 // Writes the whole series into pagar or receber. progress(i) runs at each instalment before its
 // date moves. An expense opens its table once for the series, an income once per instalment.
 // Throws sql::error or vb::overflow_error; the rows written before stay.
-void write_series(kind k, const entry_fields& f, const series_plan& p,
+void write_series(ledger k, const entry_fields& f, const series_plan& p,
                   const std::function<void(double)>& progress = {});
 
 // The window as the main window's openers dress it.
-dress dress_for_series(kind k);
+dress dress_for_series(ledger k);
 
 // The waiting window's texts.
 QString series_title();

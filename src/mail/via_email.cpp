@@ -160,7 +160,8 @@ void escrever_ledger(QIODevice& out, const ledger_info& l, const pagina& p, tipo
     if (barra) barra(total, total);
 
     QString rotulo = u"Valor total: "_s + reais(soma.moeda_total()) + u" - Total concluído: "_s +
-                     reais(soma.moeda(analysis::classe::concluido)) + u" - Total pendente: "_s + reais(soma.moeda(analysis::classe::pendente));
+                     reais(soma.moeda(analysis::classe::concluido)) + u" - Total pendente: "_s +
+                     reais(soma.moeda(analysis::classe::pendente));
     if (l.movimento)
         rotulo = u"Total depósito: "_s + reais(depositos) + u" - Total retirada: "_s + reais(retiradas) +
                  u" - Total transferência: "_s + reais(transferencias) + u"\r\n"_s + rotulo;
@@ -181,17 +182,20 @@ QString estatisticas_ledger(const QString& tabela, const QString& titulo, const 
         const int i_valor = rs.index_of(store::coluna::valor),
                   i_estatus = rs.index_of(store::coluna::estatus);
         for (; !rs.eof(); rs.move_next())
-            soma.add(i_estatus < 0 ? QString() : rs.text(i_estatus), i_valor < 0 ? QString() : rs.text(i_valor));
+            soma.add(i_estatus < 0 ? QString() : rs.text(i_estatus),
+                     i_valor < 0 ? QString() : rs.text(i_valor));
     });
     const auto n = [](long v) { return QString::number(v); };
     return u"> "_s + titulo + u"<br><br>"_s + u"<b>Total de contas cadastradas:</b> "_s + n(soma.n()) +
            u" cadastros<br><br>"_s + u"<b>Total de contas pendentes cadastradas:</b> "_s +
            n(soma.n(analysis::classe::pendente)) + u" cadastros<br><br>"_s +
-           u"<b>Valor total de contas pendentes:</b> R$ "_s + vb::format_money(soma.soma_de(analysis::classe::pendente)) +
-           u"<br><br>"_s + u"<b>Total de contas concluídas cadastradas:</b> "_s + n(soma.n(analysis::classe::concluido)) +
+           u"<b>Valor total de contas pendentes:</b> R$ "_s +
+           vb::format_money(soma.soma_de(analysis::classe::pendente)) + u"<br><br>"_s +
+           u"<b>Total de contas concluídas cadastradas:</b> "_s + n(soma.n(analysis::classe::concluido)) +
            u" cadastros<br><br>"_s + u"<b>Valor total de contas concluidas:</b> R$ "_s +
-           vb::format_money(soma.soma_de(analysis::classe::concluido)) + u"<br><br>"_s + u"<b>Total geral:</b> R$ "_s +
-           vb::format_money(soma.total()) + (ultimo ? u"<br><br>"_s : u"<br><br><hr>"_s);
+           vb::format_money(soma.soma_de(analysis::classe::concluido)) + u"<br><br>"_s +
+           u"<b>Total geral:</b> R$ "_s + vb::format_money(soma.total()) +
+           (ultimo ? u"<br><br>"_s : u"<br><br><hr>"_s);
 }
 
 QString rodape_html() {

@@ -39,11 +39,6 @@ public:
     QString mLetraTXT() const { return letra_; }
     void set_Max_LetraForFields(std::int16_t n) { max_letra_ = n; }
     std::int16_t Max_LetraForFields() const { return max_letra_; }
-    // Kept for a delimited output that nothing writes.
-    void set_FieldEncloseCSV(const QString& s) { enclose_ = s.left(1); }
-    void set_FieldSeparatorCSV(const QString& s) { separator_ = s.left(1); }
-    QString FieldEncloseCSV() const { return enclose_; }
-    QString FieldSeparatorCSV() const { return separator_; }
 
     // nullptr drops the bar.
     void set_Progresbar(progress* bar) { bar_ = bar; }
@@ -62,8 +57,6 @@ private:
 
     std::vector<int> larguras_;
     QString letra_ = QStringLiteral("*");
-    QString enclose_;
-    QString separator_ = QStringLiteral(";");
     std::int16_t max_letra_ = 9999;
     progress* bar_ = nullptr;
 };

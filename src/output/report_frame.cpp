@@ -2,6 +2,7 @@
 
 #include "platform/busy.h"
 #include "platform/clock.h"
+#include "platform/errors.h"
 #include "platform/prompts.h"
 #include "platform/shell.h"
 #include "platform/text/vb_text.h"
@@ -191,17 +192,13 @@ QString salvar_arquivo(const QString& titulo, const QString& filtro, progress* b
     if (arquivo.isEmpty()) return arquivo;
     // each step on its own: a failure skips that step and the next one runs
     if (bar) bar->set_visible(true);
-    try {
+    platform::ignore_errors([&] {
         // an unwritable file leaves nothing written and nothing touched
         QFile file(arquivo);
         if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) escrever(file);
-    } catch (...) {
-    }
+    });
     if (bar) bar->set_visible(false);
-    try {
-        perguntar_visualizar(arquivo);
-    } catch (...) {
-    }
+    platform::ignore_errors([&] { perguntar_visualizar(arquivo); });
     return arquivo;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/text/vb_text.h"
 #include "store/program_dir.h"
 
+#include <array>
 #include <cfloat>
 #include <cmath>
 
@@ -32,7 +33,7 @@ std::vector<column_def> entry_columns(const QString& contato_heading) {
 }
 
 QString file_of(ledger which) {
-    return store::program_path(layout_file_name(which));
+    return store::program_path(traits(which).layout);
 }
 
 QString position_key(std::size_t column) {
@@ -47,39 +48,21 @@ double default_width(const column_def& c) {
 
 const std::vector<column_def>& ledger_columns(ledger which) {
     // receber keeps pagar's key "fornecedor" for its client column: the twins differ in the heading only
-    static const std::vector<column_def> pagar = entry_columns(u"Fornecedor"_s);
-    static const std::vector<column_def> receber = entry_columns(u"Cliente"_s);
-    static const std::vector<column_def> bancario = {
-        {u"id"_s, u"Código"_s, u"0"_s, tag_number, Qt::AlignLeft},
-        {u"data"_s, u"Data"_s, u"1319,8111"_s, tag_date, Qt::AlignLeft},
-        {u"tipo"_s, u"Movimento"_s, u"2940,0948"_s, tag_text, Qt::AlignLeft},
-        {u"origem"_s, u"Origem"_s, u"2140,1575"_s, tag_text, Qt::AlignLeft},
-        {u"destino"_s, u"Destino"_s, u"2140,1575"_s, tag_text, Qt::AlignLeft},
-        {u"valor"_s, u"Valor"_s, u"1339,6536"_s, tag_number, Qt::AlignRight},
-        {u"estatus"_s, u"Estatus"_s, u"1340,2206"_s, tag_text, Qt::AlignLeft},
-        {u"info"_s, u"Informações"_s, u"2839,7483"_s, tag_text, Qt::AlignLeft},
+    static const std::array<std::vector<column_def>, 3> all = {
+        entry_columns(traits(ledger::pagar).contato_titulo),
+        entry_columns(traits(ledger::receber).contato_titulo),
+        {
+            {u"id"_s, u"Código"_s, u"0"_s, tag_number, Qt::AlignLeft},
+            {u"data"_s, u"Data"_s, u"1319,8111"_s, tag_date, Qt::AlignLeft},
+            {u"tipo"_s, u"Movimento"_s, u"2940,0948"_s, tag_text, Qt::AlignLeft},
+            {u"origem"_s, u"Origem"_s, u"2140,1575"_s, tag_text, Qt::AlignLeft},
+            {u"destino"_s, u"Destino"_s, u"2140,1575"_s, tag_text, Qt::AlignLeft},
+            {u"valor"_s, u"Valor"_s, u"1339,6536"_s, tag_number, Qt::AlignRight},
+            {u"estatus"_s, u"Estatus"_s, u"1340,2206"_s, tag_text, Qt::AlignLeft},
+            {u"info"_s, u"Informações"_s, u"2839,7483"_s, tag_text, Qt::AlignLeft},
+        },
     };
-    switch (which) {
-    case ledger::pagar:
-        return pagar;
-    case ledger::receber:
-        return receber;
-    case ledger::bancario:
-        break;
-    }
-    return bancario;
-}
-
-QString layout_file_name(ledger which) {
-    switch (which) {
-    case ledger::pagar:
-        return u"\\pagar.ini"_s;
-    case ledger::receber:
-        return u"\\receber.ini"_s;
-    case ledger::bancario:
-        break;
-    }
-    return u"\\bancario.ini"_s;
+    return all[std::size_t(which)];
 }
 
 QString single_text(double v) {

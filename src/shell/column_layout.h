@@ -26,9 +26,6 @@ struct column_def {
 // The columns of lstpagar, lstreceber, lstmovimento by position; column 0 is the hidden código.
 const std::vector<column_def>& ledger_columns(ledger which);
 
-// "\pagar.ini", "\receber.ini", "\bancario.ini".
-QString layout_file_name(ledger which);
-
 struct column_layout {
     std::vector<double> widths; // per column, twips, single precision
     std::vector<int> positions; // per column, the 1-based display position

@@ -10,9 +10,8 @@
 namespace shell {
 
 QString due_statement(ledger which, const QDate& today) {
-    const QString tabela = which == ledger::receber ? QStringLiteral("receber") : QStringLiteral("pagar");
-    return QStringLiteral("SELECT * FROM ") + tabela + QStringLiteral(" where vencimento like '") +
-           sql::value(vb::ymd(today)) + QLatin1Char('\'');
+    return QStringLiteral("SELECT * FROM ") + traits(which).tabela +
+           QStringLiteral(" where vencimento like '") + sql::value(vb::ymd(today)) + QLatin1Char('\'');
 }
 
 std::vector<QStringList> load_due(ledger which, const QDate& today) {

@@ -8,19 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The settings keys of one twin, in the order salvartudo writes them.
-struct entry_keys {
-    QString origem, mostrar, centro, contato, filtro, baseado;
-};
-
-const entry_keys& keys_of(ledger which) {
-    static const entry_keys pagar{u"OrigemP"_s,    u"MostrarP"_s, u"Centro de Custo"_s,
-                                  u"Fornecedor"_s, u"FiltroP"_s,  u"BaseadoP"_s};
-    static const entry_keys receber{u"OrigemR"_s, u"MostrarR"_s, u"Centro de Lucro"_s,
-                                    u"Cliente"_s, u"FiltroR"_s,  u"BaseadoR"_s};
-    return which == ledger::receber ? receber : pagar;
-}
-
 const QString key_filtro_m = u"FiltroM"_s;
 const QString key_ordem_m = u"OrdemM"_s;
 const QString key_organizar_m = u"OrganizarM"_s;
@@ -65,15 +52,13 @@ QStringList organizar_entries() {
 }
 
 entry_filters default_entry_filters(ledger which) {
-    const bool r = which == ledger::receber;
-    entry_filters f;
-    f.tipo = u"Pendentes e Concluídos"_s;
-    f.filtro = u"Todos os dados"_s;
-    f.baseado = u"Data Cadastro"_s;
-    f.banco = u"Todos os bancos"_s;
-    f.centro = r ? u"Todos os centros de lucros"_s : u"Todos os centros de custos"_s;
-    f.contato = r ? u"Todos os clientes"_s : u"Todos os fornecedores"_s;
-    return f;
+    const ledger_traits& t = traits(which);
+    return {u"Pendentes e Concluídos"_s,
+            u"Todos os dados"_s,
+            u"Data Cadastro"_s,
+            todos_bancos,
+            t.todos_centros,
+            t.todos_contatos};
 }
 
 movement_filters default_movement_filters() {
@@ -81,7 +66,7 @@ movement_filters default_movement_filters() {
 }
 
 entry_filters read_entry_filters(ledger which) {
-    const entry_keys& k = keys_of(which);
+    const filter_keys& k = traits(which).chaves;
     const entry_filters d = default_entry_filters(which);
     entry_filters f;
     f.tipo = get(k.mostrar, d.tipo);
@@ -104,7 +89,7 @@ movement_filters read_movement_filters() {
 }
 
 void save_entry_filters(ledger which, const entry_filters& f) {
-    const entry_keys& k = keys_of(which);
+    const filter_keys& k = traits(which).chaves;
     put(k.origem, f.banco);
     put(k.mostrar, f.tipo);
     put(k.centro, f.centro);
@@ -120,12 +105,8 @@ void save_movement_filters(const movement_filters& f) {
     put(key_mostrar_m, f.tipo);
 }
 
-QString read_header_order(ledger which) {
-    return get(which == ledger::receber ? u"OrdemR"_s : u"OrdemP"_s, u" order by data asc"_s);
-}
-
 void save_header_order(ledger which, const QString& ordem) {
-    put(which == ledger::receber ? u"OrdemR"_s : u"OrdemP"_s, ordem);
+    put(traits(which).chaves.ordem, ordem);
 }
 
 } // namespace shell

@@ -31,9 +31,8 @@ void save_entry_filters(ledger which, const entry_filters& f);
 // salvartudobancario: FiltroM, OrdemM ("True"/"False"), OrganizarM, MostrarM.
 void save_movement_filters(const movement_filters& f);
 
-// OrdemP / OrdemR: the order text of the last header click. Saved, and read back by nobody that
-// acts on it: a load always sorts by its date column.
-QString read_header_order(ledger which);
+// OrdemP / OrdemR: the order text of the last header click. Saved, and read back by nobody: a
+// load always sorts by its date column.
 void save_header_order(ledger which, const QString& ordem);
 
 } // namespace shell

@@ -1,5 +1,6 @@
 #include "shell/ledger_load.h"
 
+#include "platform/errors.h"
 #include "store/conexao.h"
 #include "store/names.h"
 
@@ -71,37 +72,28 @@ struct amount {
 };
 
 amount read_amount(const QString& stored) {
-    std::optional<vb::currency> c;
-    try {
-        c = vb::ccur(stored);
-    } catch (const vb::overflow_error&) {
-    }
+    const std::optional<vb::currency> c = vb::ccur(stored);
     if (!c) return {stored, {}, false};
     const std::int64_t raw = c->raw();
     // at the edge of the range the formatted text would not read back: shown, not summed
     constexpr std::int64_t edge = std::numeric_limits<std::int64_t>::max() - 100;
     if (raw > edge || raw < -edge) return {vb::format_money(*c), {}, false};
-    // half away from zero at the cent, as the format rounds
-    const std::int64_t mag = raw < 0 ? -raw : raw;
-    std::int64_t cents = mag / 100 + ((mag % 100) >= 50 ? 1 : 0);
-    const vb::currency shown = vb::currency::from_raw((raw < 0 ? -cents : cents) * 100);
+    const vb::currency shown = vb::round_to_cents(*c);
     return {vb::format_money(shown), shown, true};
 }
 
-// A failed addition is skipped: the old loaders ran with errors ignored.
-void add_to(vb::currency& total, vb::currency v) {
-    try {
-        total += v;
-    } catch (const vb::overflow_error&) {
-    }
+// "N cadastros  -  Total de despesas: R$ ...", and the receber twin's words.
+QString entry_label(ledger which, const QString& n, const QString& total, const QString& baixado,
+                    const QString& pendente) {
+    const ledger_traits& t = traits(which);
+    return n + t.cadastros + u"  -  "_s + t.total_de + u": "_s + total + u"  -  "_s + t.total_baixado +
+           u": "_s + baixado + u"  -  Total pendente: "_s + pendente;
 }
 
 QString entry_label(ledger which, const ledger_view& v) {
-    const bool r = which == ledger::receber;
-    return QString::number(v.rows.size()) +
-           (r ? u" cadastrados  -  Total de lucros: R$ "_s : u" cadastros  -  Total de despesas: R$ "_s) +
-           vb::format_money(v.total) + (r ? u"  -  Total recebido: R$ "_s : u"  -  Total pago: R$ "_s) +
-           vb::format_money(v.pago) + u"  -  Total pendente: R$ "_s + vb::format_money(v.pendente);
+    const auto money = [](vb::currency c) { return u"R$ "_s + vb::format_money(c); };
+    return entry_label(which, QString::number(v.rows.size()), money(v.total), money(v.pago),
+                       money(v.pendente));
 }
 
 QString movement_label(const ledger_view& v) {
@@ -116,8 +108,7 @@ void walk_entries(ledger which, sql::recordset& rs, ledger_view& v) {
     const int i_data = rs.index_of(store::coluna::data);
     const int i_descricao = rs.index_of(store::coluna::descricao);
     const int i_documento = rs.index_of(store::coluna::documento);
-    const int i_contato =
-        rs.index_of(which == ledger::receber ? store::coluna::cliente : store::coluna::fornecedor);
+    const int i_contato = rs.index_of(traits(which).contato);
     const int i_vencimento = rs.index_of(store::coluna::vencimento);
     const int i_moeda = rs.index_of(store::coluna::moeda);
     const int i_valor = rs.index_of(store::coluna::valor);
@@ -144,8 +135,8 @@ void walk_entries(ledger which, sql::recordset& rs, ledger_view& v) {
         row.append(datas.get(field(rs, i_vencimento), display_date));
         row.append(std::move(valor));
         if (a.counts) {
-            add_to(v.total, a.addend);
-            add_to(estatus == pendente ? v.pendente : v.pago, a.addend);
+            vb::add_or_keep(v.total, a.addend);
+            vb::add_or_keep(estatus == pendente ? v.pendente : v.pago, a.addend);
         }
         row.append(std::move(estatus));
         row.append(origens.get(field(rs, i_origem)));
@@ -188,7 +179,7 @@ void walk_movements(sql::recordset& rs, ledger_view& v) {
             sum = &v.retiradas;
             count = &v.n_retiradas;
         }
-        if (a.counts) add_to(*sum, a.addend);
+        if (a.counts) vb::add_or_keep(*sum, a.addend);
         ++*count;
         QString valor;
         valor.reserve(rs_prefix.size() + a.text.size());
@@ -236,14 +227,13 @@ ledger_view load_rows(ledger which, sql::recordset& rs) {
     ledger_view v;
     const long n = rs.record_count() - rs.absolute_position();
     if (n > 0) v.rows.reserve(std::size_t(n));
-    try {
+    // the loop ends where it failed; what was read stays
+    platform::ignore_errors([&] {
         if (which == ledger::bancario)
             walk_movements(rs, v);
         else
             walk_entries(which, rs, v);
-    } catch (const std::exception&) {
-        // the loop ends where it failed; what was read stays
-    }
+    });
     v.label = which == ledger::bancario ? movement_label(v) : entry_label(which, v);
     return v;
 }
@@ -270,13 +260,10 @@ ledger_view load_ledger(ledger which, const QString& consulta, const std::functi
 std::array<QStringList, 3> load_boxes(ledger which) {
     const auto boxes = distinct_boxes(which);
     std::array<QStringList, 3> out;
-    try {
-        store::conectarbanco();
-    } catch (const std::exception&) {
-    }
+    platform::ignore_errors([] { store::conectarbanco(); });
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         out[i] << boxes[i].first;
-        try {
+        platform::ignore_errors([&] {
             sql::recordset rs;
             rs.open(boxes[i].statement, store::conexao, sql::keyset, sql::read_only);
             const int col = rs.index_of(boxes[i].column);
@@ -285,35 +272,15 @@ std::array<QStringList, 3> load_boxes(ledger which) {
                 const QVariant v = rs.value(col);
                 if (!v.isNull()) out[i] << v.toString();
             }
-        } catch (const std::exception&) {
-        }
+        });
     }
     return out;
 }
 
 QString empty_label(ledger which) {
     // the totals of an empty result are joined as plain zeros, without the money format
-    switch (which) {
-    case ledger::pagar:
-        return u"0 cadastros  -  Total de despesas: 0  -  Total pago: 0  -  Total pendente: 0"_s;
-    case ledger::receber:
-        return u"0 cadastrados  -  Total de lucros: 0  -  Total recebido: 0  -  Total pendente: 0"_s;
-    case ledger::bancario:
-        break;
-    }
-    return u"Depósitos: R$ 0,00 (0 cad.) - Retiradas: R$ 0,00 (0 cad.) - Transferência: R$ 0,00 (0 cad.)"_s;
-}
-
-QString waiting_title(ledger which) {
-    switch (which) {
-    case ledger::pagar:
-        return u"Carregando contas a pagar"_s;
-    case ledger::receber:
-        return u"Carregando contas a receber"_s;
-    case ledger::bancario:
-        break;
-    }
-    return u"Carregando movimento bancário"_s;
+    if (which != ledger::bancario) return entry_label(which, u"0"_s, u"0"_s, u"0"_s, u"0"_s);
+    return movement_label(ledger_view{});
 }
 
 QString waiting_text() {

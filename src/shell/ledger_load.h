@@ -43,8 +43,7 @@ std::array<QStringList, 3> load_boxes(ledger which);
 // The label of an empty result.
 QString empty_label(ledger which);
 
-// The waiting window's title and text during a load.
-QString waiting_title(ledger which);
+// The waiting window's text during a load (its title is the ledger's own).
 QString waiting_text();
 
 // A stored date as the lists show it ("dd/mm/yyyy"); both stored forms are read, and text that

@@ -9,27 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What the twins pagar and receber differ in.
-struct entry_words {
-    QString tabela;
-    QString contato; // the contact column
-    QString todos_centros;
-    QString todos_contatos;
-};
-
-const entry_words& words_of(ledger which) {
-    static const entry_words pagar{u"pagar"_s, u"fornecedor"_s, u"todos os centros de custos"_s,
-                                   u"todos os fornecedores"_s};
-    static const entry_words receber{u"receber"_s, u"cliente"_s, u"todos os centros de lucros"_s,
-                                     u"todos os clientes"_s};
-    return which == ledger::receber ? receber : pagar;
-}
-
 using vb::trim_blanks;
-
-QString ymd(const QDate& d) {
-    return vb::ymd(d);
-}
+using vb::ymd;
 
 } // namespace
 
@@ -42,7 +23,7 @@ QDate date_serial(int year, int month, int day) {
 
 built_statement entry_statement(ledger which, const entry_filters& f, const QDate& hoje,
                                 const QString& sqlatual_anterior) {
-    const entry_words& w = words_of(which);
+    const ledger_traits& w = traits(which);
     const QString coluna = f.baseado.toLower() == u"data cadastro"_s ? u"data"_s : u"vencimento"_s;
 
     const QString tipo = f.tipo.toLower();
@@ -54,14 +35,14 @@ built_statement entry_statement(ledger which, const entry_filters& f, const QDat
     else
         restoestatus = u" and (estatus like 'Concluído') "_s;
 
-    const QString restobanco = f.banco.toLower() == u"todos os bancos"_s
+    const QString restobanco = f.banco.toLower() == todos_bancos.toLower()
                                    ? QString()
                                    : u" and (origem like '"_s + sql::value(f.banco) + u"') "_s;
-    const QString restocentro = f.centro.toLower() == w.todos_centros
+    const QString restocentro = f.centro.toLower() == w.todos_centros.toLower()
                                     ? QString()
                                     : u" and (descricao like '"_s + sql::value(f.centro) + u"') "_s;
     const QString restocontato =
-        f.contato.toLower() == w.todos_contatos
+        f.contato.toLower() == w.todos_contatos.toLower()
             ? QString()
             : u" and ("_s + w.contato + u" like '"_s + sql::value(f.contato) + u"') "_s;
     const QString resto = restocentro + restocontato + restobanco;
@@ -174,25 +155,21 @@ built_statement movement_statement(const movement_filters& f, const QDate& hoje,
 }
 
 std::array<distinct_box, 3> distinct_boxes(ledger which) {
-    const bool r = which == ledger::receber;
-    const QString tabela = words_of(which).tabela;
-    const QString contato = words_of(which).contato;
-    const auto statement = [&](const QString& column) {
-        return u"SELECT DISTINCT "_s + column + u" FROM "_s + tabela + u" order by "_s + column + u" ASC"_s;
+    const ledger_traits& t = traits(which);
+    const auto box = [&](const QString& column, const QString& first) {
+        return distinct_box{u"SELECT DISTINCT "_s + column + u" FROM "_s + t.tabela + u" order by "_s +
+                                column + u" ASC"_s,
+                            column, first};
     };
-    return {{
-        {statement(u"descricao"_s), u"descricao"_s,
-         r ? u"Todos os centros de lucros"_s : u"Todos os centros de custos"_s},
-        {statement(contato), contato, r ? u"Todos os clientes"_s : u"Todos os fornecedores"_s},
-        {statement(u"origem"_s), u"origem"_s, u"Todos os bancos"_s},
-    }};
+    return {box(u"descricao"_s, t.todos_centros), box(t.contato, t.todos_contatos),
+            box(u"origem"_s, todos_bancos)};
 }
 
 std::optional<QString> header_order(ledger which, int column, bool ascending) {
     if (column < 1 || column > 9) return std::nullopt;
     static const char* const names[] = {"data",  "descricao", "documento", nullptr,      "vencimento",
                                         "valor", "estatus",   "origem",    "informacoes"};
-    const QString name = column == 4 ? words_of(which).contato : QString::fromLatin1(names[column - 1]);
+    const QString name = column == 4 ? traits(which).contato : QString::fromLatin1(names[column - 1]);
     return u" order by "_s + name + (ascending ? u" asc"_s : u" desc"_s);
 }
 

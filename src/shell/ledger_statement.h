@@ -3,6 +3,8 @@
 // lstmovimento), built from the filter boxes' texts as they stand. No widget, no data file:
 // the window gathers the texts, calls these, keeps sqlatual and opens the result.
 
+#include "shell/ledger.h"
+
 #include <QDate>
 #include <QString>
 
@@ -10,8 +12,6 @@
 #include <optional>
 
 namespace shell {
-
-enum class ledger { pagar, receber, bancario };
 
 // The boxes above lstpagar (cbotipop, cbofiltrop, cbobaseadoP, cbobancop, cbocentrocusto,
 // cbofornecedor) or lstreceber (cbotipor, cbofiltror, cbobaseadoR, cbobancor, cbocentrolucro,

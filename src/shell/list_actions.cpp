@@ -1,5 +1,6 @@
 #include "shell/list_actions.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
@@ -12,29 +13,8 @@ namespace shell {
 
 namespace {
 
-QString table_of(ledger which) {
-    switch (which) {
-    case ledger::pagar:
-        return store::tabela::pagar;
-    case ledger::receber:
-        return store::tabela::receber;
-    default:
-        return store::tabela::bancario;
-    }
-}
-
 QString code_text(double codigo) {
     return sql::value(vb::cstr(codigo));
-}
-
-// The amount as the receipt shows it; a text that is no amount stays as it is.
-QString receipt_amount(const QString& stored, bool prefixed) {
-    try {
-        if (const auto c = vb::ccur(stored))
-            return prefixed ? vb::format_money_prefixed(*c) : vb::format_money(*c);
-    } catch (const vb::overflow_error&) {
-    }
-    return stored;
 }
 
 QString ordem_bancario_atual;
@@ -56,7 +36,7 @@ QString remove_bank_question(const QString& banco, const QString& saldo) {
 }
 
 QString delete_statement(ledger which, double codigo) {
-    return QStringLiteral("Delete FROM ") + table_of(which) + QStringLiteral(" where(código like '") +
+    return QStringLiteral("Delete FROM ") + traits(which).tabela + QStringLiteral(" where(código like '") +
            code_text(codigo) + QStringLiteral("')");
 }
 
@@ -65,64 +45,35 @@ QString delete_bank_statement(const QString& banco) {
 }
 
 QString entry_by_code(ledger which, double codigo) {
-    return QStringLiteral("SELECT * FROM ") + table_of(which) + QStringLiteral(" where(código like '") +
+    return QStringLiteral("SELECT * FROM ") + traits(which).tabela + QStringLiteral(" where(código like '") +
            code_text(codigo) + QStringLiteral("')");
 }
 
 void run_removal(const QString& statement) {
     store::conectarbanco();
-    try {
+    platform::ignore_errors([&] {
         if (store::conexao) store::conexao->execute(statement);
-    } catch (const std::exception&) {
-    }
+    });
     store::fecharconexao();
 }
 
 QString settle_question(ledger which) {
-    return which == ledger::receber ? QStringLiteral("Deseja efetuar uma baixa para está receita?")
-                                    : QStringLiteral("Deseja efetuar uma baixa para está despesa?");
+    return QStringLiteral("Deseja efetuar uma baixa para está ") + traits(which).palavra + QLatin1Char('?');
 }
 
 bool settle_entry(ledger which, double codigo, const QDate& hoje, const std::function<bool()>& confirmar) {
     sql::recordset rs;
-    try {
-        rs.open(entry_by_code(which, codigo), store::conexao, sql::keyset, sql::optimistic);
-    } catch (const std::exception&) {
-    }
+    platform::ignore_errors(
+        [&] { rs.open(entry_by_code(which, codigo), store::conexao, sql::keyset, sql::optimistic); });
     if (!confirmar()) return false;
-    try {
+    bool escrito = false;
+    platform::ignore_errors([&] {
         rs.set(store::coluna::estatus, store::palavra::concluido);
         rs.set(store::coluna::vencimento, vb::dmy(hoje));
         rs.update();
-        return true;
-    } catch (const std::exception&) {
-        return false;
-    }
-}
-
-receipt read_receipt(ledger which, double codigo, const QDate& hoje) {
-    const bool pagar = which == ledger::pagar;
-    const QString seu_nome = QStringLiteral("Seu nome e ou empresa");
-    receipt r;
-    r.caption =
-        pagar ? QStringLiteral("Recibo de contas a pagar") : QStringLiteral("Recibo de contas a receber");
-    // the owner's side is a fixed text, the other side comes from the row
-    (pagar ? r.recibo : r.pagamento) = seu_nome;
-    r.data = vb::dmy(hoje);
-    try {
-        store::conectarbanco();
-        sql::recordset rs;
-        rs.open(entry_by_code(which, codigo), store::conexao, sql::keyset, sql::read_only);
-        if (rs.eof()) return r;
-        (pagar ? r.pagamento : r.recibo) =
-            rs.text(pagar ? store::coluna::fornecedor : store::coluna::cliente);
-        r.referente = rs.text(store::coluna::descricao);
-        // the income receipt shows its amount with the prefix, the expense receipt without
-        r.valor = receipt_amount(rs.text(store::coluna::valor), !pagar);
-        rs.close();
-    } catch (const std::exception&) {
-    }
-    return r;
+        escrito = true;
+    });
+    return escrito;
 }
 
 QString ordem_bancario() {

@@ -1,7 +1,7 @@
 #pragma once
 // What the main window's actions on a row say and write: the questions, the removal and settle
-// statements, the settle write itself, the receipt's reading of a row and the notices of the bank
-// list's view items. No widget: the window finds the selected row, asks, and reloads.
+// statements, the settle write itself and the notices of the bank list's view items. No widget: the window
+// finds the selected row, asks, and reloads.
 
 #include "shell/ledger_statement.h"
 
@@ -9,7 +9,6 @@
 #include <QString>
 
 #include <functional>
-#include <optional>
 
 namespace shell {
 
@@ -38,19 +37,6 @@ QString settle_question(ledger which);
 // and hoje as dd/mm/yyyy into vencimento. Each step runs with errors ignored, so a row that cannot
 // be opened still asks. True when the row was written.
 bool settle_entry(ledger which, double codigo, const QDate& hoje, const std::function<bool()>& confirmar);
-
-// The receipt of one entry as its window takes it. The fields read from the row are empty
-// optionals when the row could not be read: the window then keeps what those fields hold.
-struct receipt {
-    QString caption;
-    std::optional<QString> pagamento; // txtpagamento
-    std::optional<QString> recibo;    // txtrecibo
-    std::optional<QString> referente; // txtreferente
-    QString data;                     // txtdata, dd/mm/yyyy
-    std::optional<QString> valor;     // txtvalor
-};
-// Connects and reads the entry of codigo (which = pagar or receber); never throws.
-receipt read_receipt(ledger which, double codigo, const QDate& hoje);
 
 // The order clause of the bank movements' period reports, set from the movement list's pop-up
 // and kept apart from the ledger lists' order. Empty until an item sets it.

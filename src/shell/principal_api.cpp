@@ -14,11 +14,6 @@ QHash<QString, action>& acoes() {
     static QHash<QString, action> tabela;
     return tabela;
 }
-
-bool exibir_principal() {
-    return store::setting(store::secao_config, QStringLiteral("ExibirPrincipal"), QStringLiteral("1")) ==
-           QLatin1String("1");
-}
 } // namespace
 
 principal_api* principal() {
@@ -30,14 +25,14 @@ void set_principal(principal_api* p) {
 }
 
 void recarregar_principal(ledger which, bool com_filtros) {
-    if (!atual || !exibir_principal()) return;
+    if (!atual || !store::exibir_principal()) return;
     atual->mostrar_aba(which);
     atual->carregar(which);
     if (com_filtros && which != ledger::bancario) atual->carregar_filtros(which);
 }
 
 void recarregar_bancos() {
-    if (atual && exibir_principal()) atual->carregar_bancos();
+    if (atual && store::exibir_principal()) atual->carregar_bancos();
 }
 
 void register_action(const QString& name, action run) {

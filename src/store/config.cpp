@@ -12,4 +12,9 @@ void save_setting(const QString& secao, const QString& chave, const QString& val
     platform::save_setting(app_title, secao, chave, valor);
 }
 
+bool exibir_principal() {
+    return setting(secao_config, QStringLiteral("ExibirPrincipal"), QStringLiteral("1")) ==
+           QLatin1String("1");
+}
+
 } // namespace store

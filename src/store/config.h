@@ -10,4 +10,7 @@ namespace store {
 QString setting(const QString& secao, const QString& chave, const QString& padrao);
 void save_setting(const QString& secao, const QString& chave, const QString& valor);
 
+// ExibirPrincipal at "1": the main window shows its data and reloads it after every save.
+bool exibir_principal();
+
 } // namespace store

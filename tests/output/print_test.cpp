@@ -316,5 +316,6 @@ TEST(printing_family, the_core_fonts_resolve_to_their_metric_twins) {
         EXPECT_EQ(platform::printing_family(c.asked), expected) << c.asked.toStdString();
     }
     // what is drawn is the resolved face, not a substitute the system picked
-    EXPECT_EQ(QFontInfo(platform::twips_font(u"Arial"_s, 10)).family(), platform::printing_family(u"Arial"_s));
+    EXPECT_EQ(QFontInfo(platform::twips_font(u"Arial"_s, 10)).family(),
+              platform::printing_family(u"Arial"_s));
 }

@@ -67,8 +67,26 @@ TEST(vb_text, ccur_reads_the_brazilian_form) {
 TEST(vb_text, currency_overflows_like_the_old_type) {
     const auto big = vb::currency::from_raw(std::numeric_limits<std::int64_t>::max() - 5);
     EXPECT_THROW(big + vb::currency::from_raw(10), vb::overflow_error);
-    EXPECT_THROW(vb::ccur(QStringLiteral("99999999999999999999")), vb::overflow_error);
-    EXPECT_EQ(vb::money_of(QStringLiteral("99999999999999999999")).raw(), 0);
+    const QString huge = QStringLiteral("99999999999999999999");
+    // one channel: no amount; the throwing readers tell the overflow from text that is no amount
+    EXPECT_EQ(vb::ccur(huge), std::nullopt);
+    EXPECT_THROW(vb::ccur_or_throw(huge), vb::overflow_error);
+    EXPECT_THROW(vb::ccur_or_throw(QStringLiteral("abc")), vb::type_mismatch);
+    EXPECT_EQ(vb::reformat_money_text(huge), huge);
+    EXPECT_THROW(vb::reformat_money_checked(huge), vb::overflow_error);
+    EXPECT_EQ(vb::reformat_money_checked(QStringLiteral("abc")), QStringLiteral("abc"));
+    EXPECT_EQ(vb::money_of(huge).raw(), 0);
+    // sums keep their value past the range; rounding stays inside it at both ends
+    vb::currency sum = big;
+    EXPECT_FALSE(vb::add_or_keep(sum, vb::currency::from_raw(10)));
+    EXPECT_EQ(sum, big);
+    EXPECT_TRUE(vb::subtract_or_keep(sum, big));
+    EXPECT_EQ(sum.raw(), 0);
+    EXPECT_EQ(vb::round_to_cents(big).raw(), std::numeric_limits<std::int64_t>::max() - 7);
+    EXPECT_EQ(vb::round_to_cents(vb::currency::from_raw(std::numeric_limits<std::int64_t>::min())).raw(),
+              std::numeric_limits<std::int64_t>::min() + 8);
+    EXPECT_EQ(vb::round_to_cents(vb::currency::from_raw(-12350)).raw(), -12400);
+    EXPECT_EQ(vb::round_to_cents(vb::currency::from_raw(12349)).raw(), 12300);
 }
 
 TEST(vb_text, val_takes_the_leading_number) {

@@ -39,7 +39,6 @@ TEST_F(filter_state, nothing_saved_gives_the_defaults) {
     EXPECT_EQ(
         shell::read_movement_filters(),
         (shell::movement_filters{u"Todos os dados"_s, u"Todos os dados"_s, u"Data de cadastro"_s, true}));
-    EXPECT_EQ(shell::read_header_order(ledger::pagar), u" order by data asc"_s);
     // the defaults are entries the boxes offer
     EXPECT_TRUE(shell::tipo_entries().contains(shell::default_entry_filters(ledger::pagar).tipo));
     EXPECT_TRUE(shell::filtro_entries().contains(shell::default_entry_filters(ledger::pagar).filtro));
@@ -92,7 +91,6 @@ TEST_F(filter_state, salvartudobancario_writes_the_option_as_true_or_false) {
 
 TEST_F(filter_state, header_order_is_kept_per_twin) {
     shell::save_header_order(ledger::receber, u" order by cliente desc"_s);
-    EXPECT_EQ(shell::read_header_order(ledger::receber), u" order by cliente desc"_s);
-    EXPECT_EQ(shell::read_header_order(ledger::pagar), u" order by data asc"_s);
     EXPECT_EQ(store::setting(store::secao_config, u"OrdemR"_s, {}), u" order by cliente desc"_s);
+    EXPECT_EQ(store::setting(store::secao_config, u"OrdemP"_s, u"-"_s), u"-"_s);
 }

@@ -49,7 +49,6 @@ TEST(frmcarregando, may_be_left_on_the_screen_or_lost_with_its_window) {
         waiting_window espera(frmmultiplos, QStringLiteral("Carregando"), QString());
         delete frmmultiplos;
         espera.set_value(1);
-        EXPECT_EQ(espera.window(), nullptr);
     }
 }
 

@@ -7,7 +7,7 @@
 #include "platform/widgets/money_field.h"
 #include "shell/principal_api.h"
 #include "store/conexao.h"
-#include "store/config.h"
+#include "store/messages.h"
 
 #include <QCloseEvent>
 #include <QFormLayout>
@@ -16,8 +16,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <exception>
 
 account_form::account_form(const QString& name, const QString& title) : QWidget(nullptr, Qt::Window) {
     setObjectName(name);
@@ -59,13 +57,7 @@ void account_form::montar(QWidget* amount_before, const QString& amount_label, c
     v->addLayout(buttons);
     resize(420, sizeHint().height());
 
-    QWidget* order[] = {txtnome, amount_before, txtvalor, txtinfo, cmdinserir, cmdcancelar};
-    QWidget* previous = nullptr;
-    for (QWidget* w : order) {
-        if (!w) continue;
-        if (previous) QWidget::setTabOrder(previous, w);
-        previous = w;
-    }
+    set_tab_chain({txtnome, amount_before, txtvalor, txtinfo, cmdinserir, cmdcancelar});
     install_field_conduct_all(this);
     atalhos_ = new atalhos(this);
     atalhos_->add(QLatin1Char('C'), [this] { cmdcancelar_click(); });
@@ -87,18 +79,15 @@ void account_form::cmdinserir_click() {
         erro(em_branco);
         return;
     }
-    const QString falha = QStringLiteral("Ocorreu o seguinte erro ao tentar cadastrar os dados: ");
     try {
         // a connection per action: the one of the opening may have been closed since
         store::conectarbanco();
         gravar();
-        recarregar_bancos();
+        shell::recarregar_bancos();
         depois_de_gravar();
         descarregar();
-    } catch (const sql::error& e) {
-        erro(falha + e.description());
     } catch (const std::exception& e) {
-        erro(falha + QString::fromUtf8(e.what()));
+        erro(store::save_error_message(e));
     }
 }
 
@@ -107,16 +96,12 @@ void account_form::cmdcancelar_click() {
 }
 
 void account_form::descarregar() {
-    descarregado_ = true;
+    mark_unloaded(this);
     hide();
     deleteLater();
 }
 
 void account_form::closeEvent(QCloseEvent* e) {
-    descarregado_ = true;
+    mark_unloaded(this);
     e->accept();
-}
-
-void account_form::recarregar_bancos() {
-    shell::recarregar_bancos();
 }

@@ -2,6 +2,8 @@
 // The screen shared by frmbanco and frmeditarbanco: name, amount and notes of an account, the
 // two checks in their order and the error handler. Adding or editing is the windows' own part.
 
+#include "platform/widgets/single_window.h"
+
 #include <QWidget>
 
 class QLineEdit;
@@ -17,7 +19,7 @@ public:
     // Visible, in front and active.
     void mostrar();
     // Unloaded (closed or about to be deleted): the next reference makes a new window.
-    bool descarregado() const { return descarregado_; }
+    bool descarregado() const { return is_unloaded(this); }
 
     QLineEdit* txtnome;
     money_field* txtvalor;
@@ -40,10 +42,6 @@ protected:
     void erro(const QString& texto);
     void closeEvent(QCloseEvent* e) override;
 
-    // Refreshes the main window's accounts list when the setting says so.
-    static void recarregar_bancos();
-
 private:
     atalhos* atalhos_ = nullptr;
-    bool descarregado_ = false;
 };

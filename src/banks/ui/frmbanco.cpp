@@ -4,6 +4,7 @@
 #include "platform/text/vb_text.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/money_field.h"
+#include "platform/widgets/single_window.h"
 #include "shell/principal_api.h"
 #include "store/conexao.h"
 
@@ -16,12 +17,11 @@ QPointer<frmbanco> the_window;
 } // namespace
 
 frmbanco* frmbanco::instance() {
-    if (!the_window || the_window->descarregado()) the_window = new frmbanco();
-    return the_window;
+    return single_window(the_window, [] { return new frmbanco; });
 }
 
 frmbanco* frmbanco::aberto() {
-    return the_window && !the_window->descarregado() ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmbanco::frmbanco() : account_form(QStringLiteral("frmbanco"), QStringLiteral("Cadastrar Banco/Caixa")) {
@@ -36,7 +36,7 @@ void frmbanco::gravar() {
     // the name is the account's identity: kept as typed; no check for one already stored
     rs.set(store::coluna::banco, txtnome->text());
     rs.set(store::coluna::informacoes, banks::info_column(txtinfo->text()));
-    rs.set(store::coluna::saldo, vb::reformat_money_text(txtvalor->text()));
+    rs.set(store::coluna::saldo, vb::reformat_money_checked(txtvalor->text()));
     rs.update();
     rs.close();
 }

@@ -2,24 +2,23 @@
 
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/money_field.h"
+#include "platform/widgets/single_window.h"
 #include "shell/principal_api.h"
 #include "store/names.h"
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPointer>
 
 namespace {
 QPointer<frmeditarbancario> the_window;
 } // namespace
 
 frmeditarbancario* frmeditarbancario::instance() {
-    if (!loaded()) the_window = new frmeditarbancario();
-    return the_window;
+    return single_window(the_window, [] { return new frmeditarbancario; });
 }
 
-frmeditarbancario* frmeditarbancario::loaded() {
-    return the_window && !the_window->descarregada() ? the_window.data() : nullptr;
+frmeditarbancario* frmeditarbancario::aberto() {
+    return loaded_window(the_window);
 }
 
 frmeditarbancario::frmeditarbancario() : movimento_window(banks::twin_editar()) {

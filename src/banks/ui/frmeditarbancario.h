@@ -6,10 +6,10 @@
 class frmeditarbancario : public movimento_window {
     Q_OBJECT
 public:
-    // The window while it is loaded; a new one after it was unloaded.
+    // The one window, made at its first reference and again after it was unloaded.
     static frmeditarbancario* instance();
-    // The loaded window, or nullptr.
-    static frmeditarbancario* loaded();
+    // The window while it is loaded, or nullptr.
+    static frmeditarbancario* aberto();
 
     // The stored movement into the fields; the target box is shown for a transfer.
     void preencher(const banks::shown_movement& m);

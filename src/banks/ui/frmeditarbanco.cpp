@@ -1,26 +1,25 @@
 #include "banks/ui/frmeditarbanco.h"
 
 #include "banks/account_record.h"
+#include "platform/errors.h"
 #include "platform/widgets/money_field.h"
+#include "platform/widgets/single_window.h"
 #include "shell/principal_api.h"
 #include "store/conexao.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <exception>
-
 namespace {
 QPointer<frmeditarbanco> the_window;
 } // namespace
 
 frmeditarbanco* frmeditarbanco::instance() {
-    if (!the_window || the_window->descarregado()) the_window = new frmeditarbanco();
-    return the_window;
+    return single_window(the_window, [] { return new frmeditarbanco; });
 }
 
 frmeditarbanco* frmeditarbanco::aberto() {
-    return the_window && !the_window->descarregado() ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmeditarbanco::frmeditarbanco()
@@ -36,17 +35,13 @@ frmeditarbanco::frmeditarbanco()
 
 void frmeditarbanco::abrir_conta(const QString& nome, const QString& saldo_na_lista) {
     sql::recordset rs;
-    try {
+    // errors ignored: a name the statement cannot hold leaves the fields of the row empty
+    platform::ignore_errors([&] {
         store::conectarbanco();
         rs.open(banks::account_statement(nome), store::conexao, sql::keyset, sql::read_only);
-    } catch (const std::exception&) {
-        // errors ignored: a name the statement cannot hold leaves the fields of the row empty
-    }
+    });
     const auto field = [&rs](const QString& column, QLineEdit* to, auto shown) {
-        try {
-            to->setText(shown(rs.text(column)));
-        } catch (const sql::error&) {
-        }
+        platform::ignore_errors([&] { to->setText(shown(rs.text(column))); });
     };
     const auto as_is = [](const QString& t) { return t; };
     field(store::coluna::banco, txtnome, as_is);

@@ -4,13 +4,12 @@
 
 #include "banks/ui/frmaccount_form.h"
 
-#include <QPointer>
-
 class frmeditarbanco : public account_form {
     Q_OBJECT
 public:
-    // The one window, created at its first reference after an unload.
+    // The one window, made at its first reference and again after it was unloaded.
     static frmeditarbanco* instance();
+    // The window while it is loaded, or nullptr.
     static frmeditarbanco* aberto();
 
     // Fills the window for the account named in bancoselecionado: the row read by its name, and

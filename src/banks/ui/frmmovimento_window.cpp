@@ -7,7 +7,7 @@
 #include "platform/widgets/form_builders.h"
 #include "platform/widgets/money_field.h"
 #include "shell/principal_api.h"
-#include "store/config.h"
+#include "store/messages.h"
 #include "store/names.h"
 
 #include <QCloseEvent>
@@ -20,23 +20,15 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <exception>
-#include <iterator>
-
 namespace {
 
 const QString titulo_erro = QStringLiteral("Erro");
 
 // Chosen from, never typed in; any text the rows hold can still be shown.
 QComboBox* caixa(const char* name, const QString& tooltip) {
-    auto* c = new QComboBox;
-    c->setObjectName(QString::fromLatin1(name));
-    c->setEditable(true);
-    c->setInsertPolicy(QComboBox::NoInsert);
-    c->setCompleter(nullptr);
+    QComboBox* c = chosen_box(name);
     c->setToolTip(tooltip);
     c->setMinimumContentsLength(24);
-    discard_keys(c);
     return c;
 }
 
@@ -109,10 +101,8 @@ void movimento_window::montar() {
     v->addLayout(g);
     v->addLayout(botoes);
 
-    QWidget* ordem[] = {cbomovimento, cboorigem,  cbodestino, txtdata,    txtvalor,
-                        txtinfo,      cboestatus, gravar_,    cmdcancelar};
-    for (std::size_t i = 1; i < std::size(ordem); ++i)
-        setTabOrder(ordem[i - 1], ordem[i]);
+    set_tab_chain(
+        {cbomovimento, cboorigem, cbodestino, txtdata, txtvalor, txtinfo, cboestatus, gravar_, cmdcancelar});
 
     install_field_conduct_all(this);
     atalhos_ = new atalhos(this);
@@ -200,7 +190,7 @@ void movimento_window::gravar() {
         const banks::save_outcome r = banks::save_movement(twin_, chave(), campos());
         if (!twin_.origem_mark_first && r.row_opened) marcar_origem();
         if (!r.ok) {
-            msgbox_over(this, banks::save_error_message(r.error), platform::ok_only | platform::exclamation,
+            msgbox_over(this, store::save_error_message(r.error), platform::ok_only | platform::exclamation,
                         titulo_erro);
             return;
         }
@@ -208,8 +198,8 @@ void movimento_window::gravar() {
         shell::recarregar_principal(shell::ledger::bancario, false);
         descarregar();
     } catch (const std::exception& e) {
-        msgbox_over(this, banks::save_error_message(QString::fromUtf8(e.what())),
-                    platform::ok_only | platform::exclamation, titulo_erro);
+        msgbox_over(this, store::save_error_message(e), platform::ok_only | platform::exclamation,
+                    titulo_erro);
     }
 }
 
@@ -218,11 +208,11 @@ void movimento_window::cmdcancelar_click() {
 }
 
 void movimento_window::descarregar() {
-    descarregada_ = true;
+    mark_unloaded(this);
     close();
 }
 
 void movimento_window::closeEvent(QCloseEvent* e) {
-    descarregada_ = true;
+    mark_unloaded(this);
     QWidget::closeEvent(e);
 }

@@ -3,6 +3,7 @@
 // same conduct and the same store routine. Each twin gives its differences as a movement_twin.
 
 #include "banks/movimento_bancario.h"
+#include "platform/widgets/single_window.h"
 
 #include <QWidget>
 
@@ -19,7 +20,7 @@ class movimento_window : public QWidget {
 public:
     const banks::movement_twin& twin() const { return twin_; }
     // Unloaded (stored, cancelled or closed): the next opening makes a new window.
-    bool descarregada() const { return descarregada_; }
+    bool descarregado() const { return is_unloaded(this); }
 
     QComboBox* cbomovimento = nullptr;
     QComboBox* cboorigem = nullptr;
@@ -60,5 +61,4 @@ private:
     QPushButton* gravar_ = nullptr;
     QLabel* lbldestino_ = nullptr;
     atalhos* atalhos_ = nullptr;
-    bool descarregada_ = false;
 };

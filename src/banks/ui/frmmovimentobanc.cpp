@@ -1,18 +1,16 @@
 #include "banks/ui/frmmovimentobanc.h"
-
-#include <QPointer>
+#include "platform/widgets/single_window.h"
 
 namespace {
 QPointer<frmmovimentobanc> the_window;
 } // namespace
 
 frmmovimentobanc* frmmovimentobanc::instance() {
-    if (!loaded()) the_window = new frmmovimentobanc();
-    return the_window;
+    return single_window(the_window, [] { return new frmmovimentobanc; });
 }
 
-frmmovimentobanc* frmmovimentobanc::loaded() {
-    return the_window && !the_window->descarregada() ? the_window.data() : nullptr;
+frmmovimentobanc* frmmovimentobanc::aberto() {
+    return loaded_window(the_window);
 }
 
 frmmovimentobanc::frmmovimentobanc() : movimento_window(banks::twin_adicionar()) {

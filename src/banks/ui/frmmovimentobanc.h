@@ -6,10 +6,10 @@
 class frmmovimentobanc : public movimento_window {
     Q_OBJECT
 public:
-    // The window while it is loaded; a new one after it was unloaded.
+    // The one window, made at its first reference and again after it was unloaded.
     static frmmovimentobanc* instance();
-    // The loaded window, or nullptr.
-    static frmmovimentobanc* loaded();
+    // The window while it is loaded, or nullptr.
+    static frmmovimentobanc* aberto();
 
     QPushButton* cmdadicionar = nullptr;
 

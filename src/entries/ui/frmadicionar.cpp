@@ -5,6 +5,7 @@
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/money_field.h"
+#include "platform/widgets/single_window.h"
 #include "shell/principal_api.h"
 #include "store/conexao.h"
 
@@ -18,12 +19,11 @@ QPointer<frmadicionar> the_window;
 } // namespace
 
 frmadicionar* frmadicionar::instance() {
-    if (!the_window || the_window->descarregado()) the_window = new frmadicionar();
-    return the_window;
+    return single_window(the_window, [] { return new frmadicionar; });
 }
 
 frmadicionar* frmadicionar::aberto() {
-    return the_window && !the_window->descarregado() ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmadicionar::frmadicionar()
@@ -41,15 +41,15 @@ frmadicionar::frmadicionar()
     inserido = false;
 }
 
-void frmadicionar::gravar(entries::kind k, const entries::entry_fields& f) {
+void frmadicionar::gravar(shell::ledger k, const entries::entry_fields& f) {
     sql::recordset rs;
-    rs.open(entries::table_of(k), store::conexao, sql::keyset, sql::pessimistic);
+    rs.open(shell::traits(k).tabela, store::conexao, sql::keyset, sql::pessimistic);
     rs.add_new();
     entries::write_columns(rs, k, f);
     rs.update();
 }
 
-void frmadicionar::depois_de_gravar(entries::kind k) {
+void frmadicionar::depois_de_gravar(shell::ledger k) {
     if (chkcontinuar->isChecked()) {
         msgbox_over(this, entries::saved_message(k), platform::information, QStringLiteral("Cadastrada"));
         txtvencimento->clear();
@@ -62,7 +62,7 @@ void frmadicionar::depois_de_gravar(entries::kind k) {
     }
     inserido = true;
     hide();
-    recarregar_principal(k, false);
+    shell::recarregar_principal(k, false);
     descarregar();
 }
 

@@ -4,14 +4,12 @@
 
 #include "entries/ui/frmentry_form.h"
 
-#include <QPointer>
-
 class frmadicionar : public entry_form {
     Q_OBJECT
 public:
-    // The one window, created at its first reference after an unload.
+    // The one window, made at its first reference and again after it was unloaded.
     static frmadicionar* instance();
-    // The window when it is loaded, or nullptr.
+    // The window while it is loaded, or nullptr.
     static frmadicionar* aberto();
 
     QCheckBox* chkcontinuar;
@@ -19,8 +17,8 @@ public:
     bool inserido = false;
 
 protected:
-    void gravar(entries::kind k, const entries::entry_fields& f) override;
-    void depois_de_gravar(entries::kind k) override;
+    void gravar(shell::ledger k, const entries::entry_fields& f) override;
+    void depois_de_gravar(shell::ledger k) override;
     void ao_descarregar() override;
 
 private:

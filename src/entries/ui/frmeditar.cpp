@@ -1,7 +1,10 @@
 #include "entries/ui/frmeditar.h"
 
+#include "platform/errors.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/money_field.h"
+#include "platform/widgets/single_window.h"
+#include "shell/principal_api.h"
 #include "store/conexao.h"
 
 #include <QComboBox>
@@ -9,19 +12,16 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include <exception>
-
 namespace {
 QPointer<frmeditar> the_window;
 } // namespace
 
 frmeditar* frmeditar::instance() {
-    if (!the_window || the_window->descarregado()) the_window = new frmeditar();
-    return the_window;
+    return single_window(the_window, [] { return new frmeditar; });
 }
 
 frmeditar* frmeditar::aberto() {
-    return the_window && !the_window->descarregado() ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmeditar::frmeditar()
@@ -34,23 +34,16 @@ frmeditar::frmeditar()
     atalho_extra(QLatin1Char('E'));
 }
 
-void frmeditar::abrir_entrada(entries::kind k, const QString& codigo) {
+void frmeditar::abrir_entrada(shell::ledger k, const QString& codigo) {
     lblcodigo->setText(codigo);
     sql::recordset rs;
-    try {
+    // errors ignored: the fields keep what the boxes show
+    platform::ignore_errors([&] {
         store::conectarbanco();
         rs.open(entries::entry_statement(k, codigo), store::conexao, sql::keyset, sql::read_only);
-    } catch (const std::exception&) {
-        // errors ignored: the fields keep what the boxes show
-    }
+    });
     carregarbanco();
-    if (k == entries::kind::despesa) {
-        carregarfornecedor();
-        planopagar();
-    } else {
-        carregarcliente();
-        planoreceber();
-    }
+    carregar_contato_e_centro(k);
     const entries::entry_row row = entries::read_columns(rs, k);
     const auto put = [](const entries::read_field& r, auto&& set) {
         if (r.ok) set(r.text);
@@ -69,7 +62,7 @@ void frmeditar::abrir_entrada(entries::kind k, const QString& codigo) {
     rs.close();
 }
 
-void frmeditar::gravar(entries::kind k, const entries::entry_fields& f) {
+void frmeditar::gravar(shell::ledger k, const entries::entry_fields& f) {
     sql::recordset rs;
     rs.open(entries::entry_statement(k, lblcodigo->text()), store::conexao, sql::keyset, sql::pessimistic);
     // a row that no longer exists fails at the first column
@@ -77,8 +70,8 @@ void frmeditar::gravar(entries::kind k, const entries::entry_fields& f) {
     rs.update();
 }
 
-void frmeditar::depois_de_gravar(entries::kind k) {
+void frmeditar::depois_de_gravar(shell::ledger k) {
     hide();
-    recarregar_principal(k, true);
+    shell::recarregar_principal(k, true);
     descarregar();
 }

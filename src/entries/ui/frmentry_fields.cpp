@@ -1,5 +1,6 @@
 #include "entries/ui/frmentry_fields.h"
 
+#include "platform/errors.h"
 #include "platform/prompts.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/field_helpers.h"
@@ -14,8 +15,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <exception>
 
 entry_fields_form::entry_fields_form(const QString& name, entries::list_source bank_list,
                                      const QString& estatus_tip)
@@ -110,22 +109,15 @@ void entry_fields_form::montar_tela(QGridLayout* grid, std::initializer_list<QWi
         if (w) v->addWidget(w);
     v->addLayout(buttons);
     resize(520, sizeHint().height());
-    QWidget* anterior = nullptr;
-    for (QWidget* w : ordem) {
-        if (anterior) QWidget::setTabOrder(anterior, w);
-        anterior = w;
-    }
+    set_tab_chain(ordem);
     install_field_conduct_all(this);
     install_field_conduct(txtinfo);
 }
 
 void entry_fields_form::carregar_lista(QComboBox* box, const entries::list_source& s) {
     QStringList names;
-    try {
-        names = entries::read_names(s);
-    } catch (const std::exception&) {
-        // errors ignored: the box is left empty
-    }
+    // errors ignored: the box is left empty
+    platform::ignore_errors([&] { names = entries::read_names(s); });
     fill_names(box, names);
 }
 
@@ -145,6 +137,22 @@ void entry_fields_form::planoreceber() {
     carregar_lista(txtdescricao, entries::profit_centres());
 }
 
+void entry_fields_form::carregar_contato_e_centro(shell::ledger k) {
+    if (k == shell::ledger::pagar) {
+        carregarfornecedor();
+        planopagar();
+    } else {
+        carregarcliente();
+        planoreceber();
+    }
+}
+
+void entry_fields_form::carregar_caixas(shell::ledger k) {
+    if (k != shell::ledger::pagar) carregarbanco();
+    carregar_contato_e_centro(k);
+    if (k == shell::ledger::pagar) carregarbanco();
+}
+
 void entry_fields_form::vestir(const entries::dress& d) {
     setWindowTitle(d.titulo);
     PIC1->setVisible(d.despesa);
@@ -157,16 +165,16 @@ void entry_fields_form::mostrar() {
 }
 
 entries::entry_fields entry_fields_form::campos_com(const QString& vencimento) const {
-    return {cboestatus->currentText(),
-            cboorigem->currentText(),
-            cbotipo->currentText(),
-            txtdata->text(),
-            txtdescricao->currentText(),
-            txtdocumento->text(),
-            txtinfo->toPlainText(),
-            txtvalor->text(),
-            vencimento,
-            cbomoeda->currentText()};
+    return {.estatus = cboestatus->currentText(),
+            .origem = cboorigem->currentText(),
+            .nome = cbotipo->currentText(),
+            .data = txtdata->text(),
+            .descricao = txtdescricao->currentText(),
+            .documento = txtdocumento->text(),
+            .informacoes = txtinfo->toPlainText(),
+            .valor = txtvalor->text(),
+            .vencimento = vencimento,
+            .moeda = cbomoeda->currentText()};
 }
 
 void entry_fields_form::erro(const QString& texto) {

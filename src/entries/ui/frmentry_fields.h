@@ -28,6 +28,11 @@ public:
     void carregarcliente();
     void planopagar();
     void planoreceber();
+    // The contact box, then the centre box, of the ledger's kind.
+    void carregar_contato_e_centro(shell::ledger k);
+    // The three boxes as the main window's openers fill them: an expense's account box last, an
+    // income's first.
+    void carregar_caixas(shell::ledger k);
     // Caption, picture and action button as the main window's openers give them.
     void vestir(const entries::dress& d);
     // Visible, in front and active.

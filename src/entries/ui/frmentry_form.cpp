@@ -1,29 +1,24 @@
 #include "entries/ui/frmentry_form.h"
 
 #include "platform/clock.h"
+#include "platform/errors.h"
 #include "platform/prompts.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/form_builders.h"
 #include "platform/widgets/money_field.h"
+#include "platform/widgets/single_window.h"
 #include "shell/principal_api.h"
 #include "store/conexao.h"
-#include "store/config.h"
+#include "store/messages.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QStyle>
-#include <QTabWidget>
-#include <QVBoxLayout>
-
-#include <exception>
 
 namespace {
 
@@ -110,17 +105,14 @@ void entry_form::cmdinserir_click() {
         erro(em_branco);
         return;
     }
-    const QString falha = QStringLiteral("Ocorreu o seguinte erro ao tentar cadastrar os dados: ");
     try {
         if (cboorigem->currentText().isEmpty()) cboorigem->setEditText(store::palavra::sem_origem);
         store::conectarbanco();
-        const entries::kind k = entries::kind_of_caption(cmdinserir->text(), expense_caption_);
+        const shell::ledger k = entries::kind_of_caption(cmdinserir->text(), expense_caption_);
         gravar(k, campos());
         depois_de_gravar(k);
-    } catch (const sql::error& e) {
-        erro(falha + e.description());
     } catch (const std::exception& e) {
-        erro(falha + QString::fromUtf8(e.what()));
+        erro(store::save_error_message(e));
     }
 }
 
@@ -155,31 +147,21 @@ void entry_form::centro_cadastrado(bool custo, const QString& nome) {
     if (!nome.isEmpty()) txtdescricao->setEditText(nome);
 }
 
+void entry_form::marcar_descarregado() {
+    if (descarregado_) return;
+    descarregado_ = true;
+    mark_unloaded(this);
+    // errors ignored: the window goes all the same
+    platform::ignore_errors([this] { ao_descarregar(); });
+}
+
 void entry_form::descarregar() {
     hide();
-    if (!descarregado_) {
-        descarregado_ = true;
-        try {
-            ao_descarregar();
-        } catch (const std::exception&) {
-            // errors ignored: the window goes all the same
-        }
-    }
+    marcar_descarregado();
     deleteLater();
 }
 
 void entry_form::closeEvent(QCloseEvent* e) {
-    if (!descarregado_) {
-        descarregado_ = true;
-        try {
-            ao_descarregar();
-        } catch (const std::exception&) {
-        }
-    }
+    marcar_descarregado();
     e->accept();
-}
-
-void entry_form::recarregar_principal(entries::kind k, bool com_filtros) {
-    shell::recarregar_principal(k == entries::kind::despesa ? shell::ledger::pagar : shell::ledger::receber,
-                                com_filtros);
 }

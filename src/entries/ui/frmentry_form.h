@@ -45,9 +45,9 @@ protected:
     void atalho_extra(QChar letra);
 
     // Writes the row (a new one or the one being edited). Throws.
-    virtual void gravar(entries::kind k, const entries::entry_fields& f) = 0;
+    virtual void gravar(shell::ledger k, const entries::entry_fields& f) = 0;
     // After a successful write. Throws (the same handler as the write).
-    virtual void depois_de_gravar(entries::kind k) = 0;
+    virtual void depois_de_gravar(shell::ledger k) = 0;
     // When the window is unloaded, by the code or by the user.
     virtual void ao_descarregar() {}
 
@@ -56,10 +56,8 @@ protected:
 
     void closeEvent(QCloseEvent* e) override;
 
-    // Reloads the main window's list of the kind, on its tab, when the setting says so.
-    static void recarregar_principal(entries::kind k, bool com_filtros);
-
 private:
+    void marcar_descarregado();
     // A centre added or renamed (a name), or the centre window closed (no name).
     void centro_cadastrado(bool custo, const QString& nome);
 

@@ -8,8 +8,9 @@
 #include "platform/widgets/form_builders.h"
 #include "platform/widgets/frmcarregando.h"
 #include "platform/widgets/money_field.h"
+#include "platform/widgets/single_window.h"
 #include "shell/principal_api.h"
-#include "store/config.h"
+#include "store/messages.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -34,18 +35,15 @@
 #include <memory>
 
 namespace {
-
 QPointer<frmmultiplos> the_window;
-
 } // namespace
 
 frmmultiplos* frmmultiplos::instance() {
-    if (!the_window || the_window->descarregado_) the_window = new frmmultiplos();
-    return the_window;
+    return single_window(the_window, [] { return new frmmultiplos; });
 }
 
 frmmultiplos* frmmultiplos::aberto() {
-    return the_window && !the_window->descarregado_ ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmmultiplos::frmmultiplos()
@@ -73,7 +71,7 @@ frmmultiplos::frmmultiplos()
     // a supplier or client stored meanwhile: the box refilled, without taking the new name
     connect(&shell::avisos::instance(), &shell::avisos::cadastrado, this,
             [this](shell::cadastro que, const QString&) {
-                if (descarregado_ || !isVisible()) return;
+                if (descarregado() || !isVisible()) return;
                 if (que == shell::cadastro::fornecedor) carregarfornecedor();
                 if (que == shell::cadastro::cliente) carregarcliente();
             });
@@ -129,7 +127,6 @@ void frmmultiplos::cmdinserir_click() {
         erro(em_branco);
         return;
     }
-    const QString falha = QStringLiteral("Ocorreu o seguinte erro ao tentar cadastrar os dados: ");
     std::unique_ptr<waiting_window> espera;
     try {
         entries::series_plan plan;
@@ -141,7 +138,7 @@ void frmmultiplos::cmdinserir_click() {
         const double maximo = std::min(plan.parcelas + 1, double(INT_MAX));
         espera->set_range(0, int(maximo));
 
-        const entries::kind k =
+        const shell::ledger k =
             entries::kind_of_caption(cmdinserir->text(), QStringLiteral("&inserir despesa"));
         waiting_window* w = espera.get();
         entries::write_series(k, f, plan, [w](double i) {
@@ -153,10 +150,8 @@ void frmmultiplos::cmdinserir_click() {
         exibir_principal(k);
         espera->close();
         descarregar();
-    } catch (const sql::error& e) {
-        falhou(espera.get(), falha + e.description());
     } catch (const std::exception& e) {
-        falhou(espera.get(), falha + QString::fromUtf8(e.what()));
+        falhou(espera.get(), store::save_error_message(e));
     }
 }
 
@@ -166,12 +161,11 @@ void frmmultiplos::falhou(waiting_window* espera, const QString& texto) {
     erro(texto);
 }
 
-void frmmultiplos::exibir_principal(entries::kind k) {
+void frmmultiplos::exibir_principal(shell::ledger k) {
     // the expense tab comes forward whatever the setting says; only the reload depends on it
-    if (k == entries::kind::despesa && shell::principal())
+    if (k == shell::ledger::pagar && shell::principal())
         shell::principal()->mostrar_aba(shell::ledger::pagar);
-    shell::recarregar_principal(k == entries::kind::despesa ? shell::ledger::pagar : shell::ledger::receber,
-                                false);
+    shell::recarregar_principal(k, false);
 }
 
 void frmmultiplos::cmdcancelar_click() {
@@ -179,7 +173,7 @@ void frmmultiplos::cmdcancelar_click() {
 }
 
 void frmmultiplos::descarregar() {
-    descarregado_ = true;
+    mark_unloaded(this);
     hide();
     deleteLater();
 }

@@ -4,8 +4,8 @@
 
 #include "entries/instalments.h"
 #include "entries/ui/frmentry_fields.h"
+#include "platform/widgets/single_window.h"
 
-#include <QPointer>
 #include <QWidget>
 
 class QCheckBox;
@@ -16,15 +16,17 @@ class waiting_window;
 class frmmultiplos : public entry_fields_form {
     Q_OBJECT
 public:
-    // The one window, created at its first reference after an unload.
+    // The one window, made at its first reference and again after it was unloaded.
     static frmmultiplos* instance();
-    // The window when it is loaded, or nullptr.
+    // The window while it is loaded, or nullptr.
     static frmmultiplos* aberto();
 
     void cmdinserir_click();
     void cmdcancelar_click();
 
     entries::entry_fields campos() const;
+    // Unloaded (stored or cancelled): the next reference makes a new window.
+    bool descarregado() const { return is_unloaded(this); }
 
     QLineEdit* txtnparcelas;
     QLineEdit* txtdiasparcelas;
@@ -39,8 +41,6 @@ private:
     void descarregar();
     // The counts, the schedule and the starting date; false after a refusal.
     bool planejar(entries::series_plan& plan);
-    void exibir_principal(entries::kind k);
+    void exibir_principal(shell::ledger k);
     void falhou(waiting_window* espera, const QString& texto);
-
-    bool descarregado_ = false;
 };

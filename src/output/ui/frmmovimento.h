@@ -21,11 +21,8 @@ public:
     ~frmmovimento() override;
 
     void preencher(lista l, std::vector<QStringList>&& rows, const textos& t);
-    void mostrar_lista(lista l);
-    list_view* lista_de(lista l) const;
 
     void imprimir() override;
-    output::report_texts report_texts() const override;
 
     list_view* lstpagar;
     list_view* lstreceber;

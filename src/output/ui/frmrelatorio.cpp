@@ -11,35 +11,23 @@
 
 namespace {
 
-using output::coluna_lista;
-constexpr int txt = list_view::tag_text;
-constexpr int dat = list_view::tag_date;
-constexpr int num = list_view::tag_number;
+using namespace output;
+using namespace Qt::StringLiterals;
 
-QString texto(const char* s) {
-    return QString::fromUtf8(s);
+std::vector<coluna_lista> colunas_pagar(const QString& contato, const QString& venc) {
+    return {{u"Data"_s, 1320, dat},    {u"Descrição"_s, 4190, txt}, {u"Doc."_s, 1840, txt},
+            {contato, 2340, txt},      {venc, 1320, dat},           {u"Valor"_s, 1239, num},
+            {u"Estatus"_s, 1320, txt}, {u"Origem"_s, 2140, txt},    {u"Informações adicionais"_s, 3240, txt}};
 }
 
-std::vector<coluna_lista> colunas_pagar(const char* contato, const char* venc) {
-    return {{texto("Data"), 1320, dat},
-            {texto("Descrição"), 4190, txt},
-            {texto("Doc."), 1840, txt},
-            {texto(contato), 2340, txt},
-            {texto(venc), 1320, dat},
-            {texto("Valor"), 1239, num},
-            {texto("Estatus"), 1320, txt},
-            {texto("Origem"), 2140, txt},
-            {texto("Informações adicionais"), 3240, txt}};
-}
-
-std::vector<coluna_lista> colunas_contato(const char* nome, const char* tipo) {
-    return {{texto(nome), 2800, txt},       {texto(tipo), 1600, txt},
-            {texto("CPF/CNPJ"), 1800, txt}, {texto("Nascimento"), 1200, dat},
-            {texto("País"), 1000, txt},     {texto("Estado"), 800, txt},
-            {texto("Cidade"), 1600, txt},   {texto("Bairro"), 1600, txt},
-            {texto("Endereço"), 2800, txt}, {texto("CEP"), 1100, txt},
-            {texto("Telefone"), 1400, txt}, {texto("Celular/Nextel"), 1400, txt},
-            {texto("E-mail"), 2200, txt},   {texto("Site"), 2200, txt}};
+std::vector<coluna_lista> colunas_contato(const QString& nome, const QString& tipo) {
+    return {{nome, 2800, txt},          {tipo, 1600, txt},
+            {u"CPF/CNPJ"_s, 1800, txt}, {u"Nascimento"_s, 1200, dat},
+            {u"País"_s, 1000, txt},     {u"Estado"_s, 800, txt},
+            {u"Cidade"_s, 1600, txt},   {u"Bairro"_s, 1600, txt},
+            {u"Endereço"_s, 2800, txt}, {u"CEP"_s, 1100, txt},
+            {u"Telefone"_s, 1400, txt}, {u"Celular/Nextel"_s, 1400, txt},
+            {u"E-mail"_s, 2200, txt},   {u"Site"_s, 2200, txt}};
 }
 
 // Twips of the window's own layout.
@@ -68,22 +56,24 @@ frmrelatorio::frmrelatorio(QWidget* parent)
     lblsubtitulo = new QLabel(this);
     lblsubtitulo->setObjectName(QStringLiteral("lblsubtitulo"));
 
-    lstpagar = nova_lista("lstpagar", colunas_pagar("Fornecedor", "Venc."));
-    lstreceber = nova_lista("lstreceber", colunas_pagar("Cliente", "Vencimento"));
-    lstmovimento = nova_lista("lstmovimento", {{texto("Data"), 1320, dat},
-                                               {texto("Tipo de movimento"), 2940, txt},
-                                               {texto("Origem"), 2140, txt},
-                                               {texto("Destino"), 2140, txt},
-                                               {texto("Valor"), 1340, num},
-                                               {texto("Estatus"), 1340, txt}});
-    lstclientes = nova_lista("lstclientes", colunas_contato("Nome do cliente", "Tipo de cliente"));
+    // in the order of lista
+    lstpagar = nova_lista("lstpagar", colunas_pagar(u"Fornecedor"_s, u"Venc."_s));
+    lstreceber = nova_lista("lstreceber", colunas_pagar(u"Cliente"_s, u"Vencimento"_s));
+    lstmovimento = nova_lista("lstmovimento", {{u"Data"_s, 1320, dat},
+                                               {u"Tipo de movimento"_s, 2940, txt},
+                                               {u"Origem"_s, 2140, txt},
+                                               {u"Destino"_s, 2140, txt},
+                                               {u"Valor"_s, 1340, num},
+                                               {u"Estatus"_s, 1340, txt}});
+    lstclientes = nova_lista("lstclientes", colunas_contato(u"Nome do cliente"_s, u"Tipo de cliente"_s));
     lstfornecedores =
-        nova_lista("lstfornecedores", colunas_contato("Nome do fornecedor", "Tipo de fornecedor"));
+        nova_lista("lstfornecedores", colunas_contato(u"Nome do fornecedor"_s, u"Tipo de fornecedor"_s));
     lstpagar->show();
 
     lblgeral = new QLabel(this);
     lblgeral->setObjectName(QStringLiteral("lblgeral"));
     lblgeral->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    rotulos(LBLTIPO, lblsubtitulo, lblgeral);
 
     resize(px(12500), px(8200));
     dispor();
@@ -95,32 +85,9 @@ int frmrelatorio::px(double twips) const {
     return list_view::twips_to_pixels(twips, this);
 }
 
-list_view* frmrelatorio::lista_de(lista l) const {
-    switch (l) {
-    case lista::pagar:
-        return lstpagar;
-    case lista::receber:
-        return lstreceber;
-    case lista::movimento:
-        return lstmovimento;
-    case lista::clientes:
-        return lstclientes;
-    case lista::fornecedores:
-        return lstfornecedores;
-    }
-    return lstpagar;
-}
-
-void frmrelatorio::mostrar_lista(lista l) {
-    mostrar(lista_de(l));
-}
-
 void frmrelatorio::preencher(lista l, std::vector<QStringList>&& rows, const textos& t) {
-    encher(lista_de(l), std::move(rows));
-    if (!t.caption.isEmpty()) setWindowTitle(t.caption);
-    LBLTIPO->setText(t.tipo);
-    lblsubtitulo->setText(t.subtitulo);
-    lblgeral->setText(t.geral);
+    preencher_lista(std::size_t(l), std::move(rows),
+                    {.caption = t.caption, .tipo = t.tipo, .subtitulo = t.subtitulo, .totais = t.geral});
 }
 
 void frmrelatorio::ajustarcolunas() {
@@ -136,21 +103,11 @@ void frmrelatorio::ajustarcolunas() {
     l->setUpdatesEnabled(true);
 }
 
-output::report_texts frmrelatorio::report_texts() const {
-    output::report_texts t;
-    t.janela = output::janela_relatorio::relatorio;
-    t.caption = windowTitle();
-    t.tipo = LBLTIPO->text();
-    t.subtitulo = lblsubtitulo->text();
-    t.totais = lblgeral->text();
-    return t;
-}
-
 void frmrelatorio::imprimir() {
     try {
         list_view* l = lista_visivel();
         if (!l) return;
-        output::list_report r = output::nova_impressao(output::report_form::rlt_impressao, l);
+        list_report r = nova_impressao(report_form::rlt_impressao, l);
         r.rpf_Titulo = LBLTIPO->text().toUpper();
         r.lblfiltro = lblsubtitulo->text();
         r.lblestatus = lblgeral->text();

@@ -24,13 +24,10 @@ public:
 
     // Fills one list (its rows replaced), the labels and the caption, and shows that list alone.
     void preencher(lista l, std::vector<QStringList>&& rows, const textos& t);
-    void mostrar_lista(lista l);
-    list_view* lista_de(lista l) const;
 
     // Sizes the visible list's columns to their contents, headings included.
     void ajustarcolunas();
     void imprimir() override;
-    output::report_texts report_texts() const override;
 
     QLabel* SpitFireXpSB1;
     list_view* lstpagar;

@@ -2,6 +2,7 @@
 
 #include "platform/widgets/list_view.h"
 
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -22,8 +23,9 @@ void barra_progresso::set_visible(bool v) {
 
 } // namespace output
 
-report_window::report_window(const char* name, const QString& caption, QWidget* parent)
-    : QWidget(parent, Qt::Window) {
+report_window::report_window(const char* name, const QString& caption, QWidget* parent,
+                             output::janela_relatorio janela)
+    : QWidget(parent, Qt::Window), janela_(janela) {
     setObjectName(QString::fromLatin1(name));
     setWindowTitle(caption);
     barraprogresso = new QProgressBar(this);
@@ -91,6 +93,30 @@ void report_window::salvar(output::formato_relatorio f) {
         else
             output::write_html_report(file, t, lista, relatorio_);
     });
+}
+
+void report_window::rotulos(QLabel* tipo, QLabel* subtitulo, QLabel* totais) {
+    tipo_ = tipo;
+    subtitulo_ = subtitulo;
+    totais_ = totais;
+}
+
+void report_window::preencher_lista(std::size_t lista, std::vector<QStringList>&& rows,
+                                    const output::report_texts& t) {
+    encher(listas_.at(lista), std::move(rows));
+    if (!t.caption.isEmpty()) setWindowTitle(t.caption);
+    for (const auto& [rotulo, texto] :
+         {std::pair{tipo_, t.tipo}, {subtitulo_, t.subtitulo}, {totais_, t.totais}})
+        if (rotulo) rotulo->setText(texto);
+}
+
+output::report_texts report_window::report_texts() const {
+    const auto texto = [](const QLabel* l) { return l ? l->text() : QString(); };
+    return {.janela = janela_,
+            .caption = windowTitle(),
+            .tipo = texto(tipo_),
+            .subtitulo = texto(subtitulo_),
+            .totais = texto(totais_)};
 }
 
 void report_window::salvartxt() {

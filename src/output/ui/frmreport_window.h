@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+class QLabel;
 class QProgressBar;
 class QPushButton;
 class list_view;
@@ -24,6 +25,8 @@ struct coluna_lista {
     double largura;
     int tag;
 };
+// The tags of coluna_lista, as list_view counts them.
+inline constexpr int txt = 0, dat = 1, num = 2;
 void montar_colunas(list_view& l, const std::vector<coluna_lista>& colunas);
 
 // The window's bar as the exporter drives it: percent values, shown while a file is written.
@@ -43,13 +46,18 @@ class report_window : public QWidget {
 public:
     ~report_window() override;
 
+    // A list by the window's own enum of lists, in the order the window added them.
+    template <class L> list_view* lista_de(L l) const { return listas_.at(std::size_t(l)); }
+    // Shows that list alone.
+    template <class L> void mostrar_lista(L l) { mostrar(lista_de(l)); }
     // The visible list, tested in the order the lists were added.
     list_view* lista_visivel() const;
     void salvartxt();
     void salvarhtml();
     virtual void imprimir() = 0;
-    // The frame's texts: caption, kind, sub-title, totals.
-    virtual output::report_texts report_texts() const = 0;
+    // The frame's texts: caption, kind, sub-title, totals, as the window's labels show them; a
+    // window with labels of its own says what they hold.
+    virtual output::report_texts report_texts() const;
 
     QProgressBar* barraprogresso;
     QPushButton* cmdimprimir;
@@ -57,7 +65,12 @@ public:
     QPushButton* cmdhtml;
 
 protected:
-    report_window(const char* name, const QString& caption, QWidget* parent);
+    report_window(const char* name, const QString& caption, QWidget* parent,
+                  output::janela_relatorio janela = output::janela_relatorio::relatorio);
+    // The labels that hold the frame's texts; tipo may be null (frmmovimento has none).
+    void rotulos(QLabel* tipo, QLabel* subtitulo, QLabel* totais);
+    // A feeder's rows into one list, shown alone, with the caption (when one is given) and labels.
+    void preencher_lista(std::size_t lista, std::vector<QStringList>&& rows, const output::report_texts& t);
     // A hidden list with its columns, one of those the window shows one at a time.
     list_view* nova_lista(const char* name, const std::vector<output::coluna_lista>& colunas);
     // Shows that list alone.
@@ -73,6 +86,10 @@ protected:
 private:
     void salvar(output::formato_relatorio f);
 
+    output::janela_relatorio janela_;
+    QLabel* tipo_ = nullptr;
+    QLabel* subtitulo_ = nullptr;
+    QLabel* totais_ = nullptr;
     std::vector<list_view*> listas_;
     output::c_relatorios relatorio_;
     std::unique_ptr<output::progress> barra_;

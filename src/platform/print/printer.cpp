@@ -105,7 +105,7 @@ struct printer::impl {
     QString error;
     bool active = false;
     int pages = 0;
-    double scale_w = 0, scale_h = 0, page_w = 0;
+    double scale_w = 0, scale_h = 0;
 
     QString font_name = QStringLiteral("Arial");
     double size = 10;
@@ -161,7 +161,6 @@ printer::start_result printer::begin(const QString& job_name, const page_format&
     const QRectF paint = layout.paintRect(QPageLayout::Point);
     d->scale_w = paint.width() * 20;
     d->scale_h = paint.height() * 20;
-    d->page_w = layout.fullRect(QPageLayout::Point).width() * 20;
     d->x = d->y = 0;
     d->painter.setFont(d->font);
     d->painter.setPen(QPen(Qt::black, 10));
@@ -197,30 +196,18 @@ double printer::ScaleWidth() const {
 double printer::ScaleHeight() const {
     return d->scale_h;
 }
-double printer::page_width() const {
-    return d->page_w;
-}
 
 void printer::set_FontName(const QString& name) {
     d->font_name = name;
     d->update_font();
 }
-QString printer::FontName() const {
-    return d->font_name;
-}
 void printer::set_FontSize(double points) {
     d->size = points;
     d->update_font();
 }
-double printer::FontSize() const {
-    return d->size;
-}
 void printer::set_FontBold(bool bold) {
     d->bold = bold;
     d->update_font();
-}
-bool printer::FontBold() const {
-    return d->bold;
 }
 void printer::set_font(const QString& name, double points, bool bold) {
     d->font_name = name;
@@ -281,18 +268,6 @@ void printer::NewPage() {
         ++d->pages;
     }
     d->x = d->y = 0;
-}
-
-void printer::draw_text(const QRectF& r, int flags, const QString& text) {
-    if (d->active) d->painter.drawText(r, flags, text);
-}
-
-void printer::draw_text_at(double x, double y, const QString& text) {
-    if (d->active) d->painter.drawText(QPointF(x, y + d->metrics->ascent()), text);
-}
-
-void printer::draw_line(double x1, double y1, double x2, double y2) {
-    if (d->active) d->painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
 }
 
 void printer::draw_image(const QRectF& r, const QImage& image) {

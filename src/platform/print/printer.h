@@ -84,18 +84,14 @@ public:
     void abort();
     int pages() const;
 
-    // The printable area, and the whole sheet's width, in twips.
+    // The printable area, in twips.
     double ScaleWidth() const;
     double ScaleHeight() const;
-    double page_width() const;
 
     // Text state; sizes in points.
     void set_FontName(const QString& name);
-    QString FontName() const;
     void set_FontSize(double points);
-    double FontSize() const;
     void set_FontBold(bool bold);
-    bool FontBold() const;
     void set_font(const QString& name, double points, bool bold = false);
     // The font to draw with in twips (its pixel size is the size in twentieths of a point).
     const QFont& twips_font() const;
@@ -117,10 +113,7 @@ public:
     void tab(int column);
     void NewPage();
 
-    // Free drawing, in twips (report forms).
-    void draw_text(const QRectF& r, int flags, const QString& text);
-    void draw_text_at(double x, double y, const QString& text); // y is the top of the text
-    void draw_line(double x1, double y1, double x2, double y2);
+    // Free drawing in twips (the report forms), on an active job.
     void draw_image(const QRectF& r, const QImage& image);
     QPainter& painter();
 

@@ -142,27 +142,45 @@ QString connection::last_error() const {
     return describe(db_);
 }
 
-sqlite3_stmt* connection::prepare(const QString& statement) {
+void statement_finalizer::operator()(sqlite3_stmt* st) const {
+    sqlite3_finalize(st);
+}
+
+namespace {
+
+// Only the first statement of the text is ever compiled. False when SQLite refused it; st stays
+// empty for a text that holds no statement.
+bool compile(sqlite3* db, const QString& text, statement_ptr& st) {
+    const QByteArray utf8 = text.toUtf8();
+    sqlite3_stmt* raw = nullptr;
+    const int rc = sqlite3_prepare_v2(db, utf8.constData(), int(utf8.size()), &raw, nullptr);
+    st.reset(raw);
+    return rc == SQLITE_OK;
+}
+
+} // namespace
+
+statement_ptr connection::prepare_native(const QString& text) {
+    statement_ptr st;
+    if (!compile(db_, text, st)) st.reset();
+    return st;
+}
+
+statement_ptr connection::prepare(const QString& statement) {
     if (has_poisoned_value(statement))
         throw error(QStringLiteral("Erro de sintaxe (operador faltando) na expressão de consulta '%1'.")
                         .arg(without_marks(statement)));
-    const QByteArray text = jet_dialect(statement).toUtf8();
-    sqlite3_stmt* st = nullptr;
-    // only the first statement of the text is ever compiled
-    if (sqlite3_prepare_v2(db_, text.constData(), int(text.size()), &st, nullptr) != SQLITE_OK) {
-        sqlite3_finalize(st);
-        throw error(describe(db_));
-    }
+    statement_ptr st;
+    if (!compile(db_, jet_dialect(statement), st)) throw error(describe(db_));
     if (!st) throw error(QStringLiteral("Instrução SQL inválida: '%1'.").arg(statement));
     return st;
 }
 
 void connection::execute(const QString& statement) {
-    sqlite3_stmt* st = prepare(statement);
+    const statement_ptr st = prepare(statement);
     int rc;
-    while ((rc = sqlite3_step(st)) == SQLITE_ROW) {
+    while ((rc = sqlite3_step(st.get())) == SQLITE_ROW) {
     }
-    sqlite3_finalize(st);
     if (rc != SQLITE_DONE) throw error(describe(db_));
 }
 

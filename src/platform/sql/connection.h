@@ -11,6 +11,12 @@ struct sqlite3_stmt;
 
 namespace sql {
 
+// A compiled statement, finalized when it goes out of scope.
+struct statement_finalizer {
+    void operator()(sqlite3_stmt* st) const;
+};
+using statement_ptr = std::unique_ptr<sqlite3_stmt, statement_finalizer>;
+
 // One open data file. Opening with a pass-phrase derives the key once per process and file salt;
 // every later open of the same file uses the raw key, so a connection per action stays cheap.
 class connection {
@@ -27,8 +33,10 @@ public:
     void execute(const QString& statement);
     // Runs a script of SQLite statements as they stand (schema building only).
     void execute_script(const QByteArray& script);
-    // Compiles the first statement of the text, in the old dialect.
-    sqlite3_stmt* prepare(const QString& statement);
+    // Compiles the first statement of the text, in the old dialect. Throws sql::error.
+    statement_ptr prepare(const QString& statement);
+    // Compiles SQLite's own text as it stands (the record set's writes); nullptr on failure.
+    statement_ptr prepare_native(const QString& text);
     sqlite3* handle() const { return db_; }
     QString last_error() const;
 

@@ -79,19 +79,18 @@ void recordset::open(const QString& source, const connection_ptr& conn, int /*cu
             statement = source;
         }
     }
-    sqlite3_stmt* st = conn->prepare(statement);
-    const int n = sqlite3_column_count(st);
+    const statement_ptr st = conn->prepare(statement);
+    const int n = sqlite3_column_count(st.get());
     cols_ = std::size_t(n);
     names_.clear();
     lower_names_.clear();
     for (int i = 0; i < n; ++i) {
-        names_.push_back(QString::fromUtf8(sqlite3_column_name(st, i)));
+        names_.push_back(QString::fromUtf8(sqlite3_column_name(st.get(), i)));
         lower_names_.push_back(names_.back().toCaseFolded());
     }
     int rc;
-    while ((rc = sqlite3_step(st)) == SQLITE_ROW)
-        append_row_from(st);
-    sqlite3_finalize(st);
+    while ((rc = sqlite3_step(st.get())) == SQLITE_ROW)
+        append_row_from(st.get());
     if (rc != SQLITE_DONE) {
         const QString why = conn->last_error();
         close();
@@ -133,14 +132,6 @@ void recordset::close() {
 void recordset::move_next() {
     if (eof()) throw error(QStringLiteral("BOF ou EOF é True ou o registro atual foi excluído."));
     ++pos_;
-}
-
-void recordset::move_previous() {
-    if (pos_ <= 0) {
-        pos_ = -1;
-        return;
-    }
-    --pos_;
 }
 
 int recordset::index_of(const QString& name) const {
@@ -235,11 +226,6 @@ void recordset::set(const QString& name, const QVariant& v) {
     pending_.emplace_back(col, v);
 }
 
-void recordset::cancel_update() {
-    mode_ = edit_mode::none;
-    pending_.clear();
-}
-
 void recordset::update() {
     if (mode_ == edit_mode::none) return;
     ensure_writable();
@@ -265,18 +251,13 @@ void recordset::update() {
         text = QStringLiteral("UPDATE %1 SET %2 WHERE rowid=?")
                    .arg(quote_ident(table_), sets.join(QLatin1Char(',')));
     }
-    const QByteArray utf8 = text.toUtf8();
-    sqlite3_stmt* st = nullptr;
-    if (sqlite3_prepare_v2(conn_->handle(), utf8.constData(), int(utf8.size()), &st, nullptr) != SQLITE_OK) {
-        sqlite3_finalize(st);
-        throw error(conn_->last_error());
-    }
+    const statement_ptr st = conn_->prepare_native(text);
+    if (!st) throw error(conn_->last_error());
     int k = 1;
     for (const auto& [i, v] : pending_)
-        bind(st, k++, v);
-    if (mode_ == edit_mode::editing) sqlite3_bind_int64(st, k, rowid);
-    const int rc = sqlite3_step(st);
-    sqlite3_finalize(st);
+        bind(st.get(), k++, v);
+    if (mode_ == edit_mode::editing) sqlite3_bind_int64(st.get(), k, rowid);
+    const int rc = sqlite3_step(st.get());
     // a failed write keeps the edit pending, as the old record set did
     if (rc != SQLITE_DONE) throw error(conn_->last_error());
     if (mode_ == edit_mode::adding) {
@@ -290,22 +271,17 @@ void recordset::update() {
 }
 
 void recordset::reload_row(std::size_t row, long long rowid) {
-    const QByteArray q =
-        QStringLiteral("SELECT rowid, * FROM %1 WHERE rowid=?").arg(quote_ident(table_)).toUtf8();
-    sqlite3_stmt* st = nullptr;
-    if (sqlite3_prepare_v2(conn_->handle(), q.constData(), int(q.size()), &st, nullptr) != SQLITE_OK) {
-        sqlite3_finalize(st);
-        return;
-    }
-    sqlite3_bind_int64(st, 1, rowid);
-    if (sqlite3_step(st) == SQLITE_ROW && std::size_t(sqlite3_column_count(st)) == cols_) {
+    const statement_ptr st = conn_->prepare_native(
+        QStringLiteral("SELECT rowid, * FROM %1 WHERE rowid=?").arg(quote_ident(table_)));
+    if (!st) return;
+    sqlite3_bind_int64(st.get(), 1, rowid);
+    if (sqlite3_step(st.get()) == SQLITE_ROW && std::size_t(sqlite3_column_count(st.get())) == cols_) {
         // the fresh copy is appended, then moved over the old cells; the old bytes stay in the arena
-        append_row_from(st);
+        append_row_from(st.get());
         std::copy(cells_.end() - std::ptrdiff_t(cols_), cells_.end(),
                   cells_.begin() + std::ptrdiff_t(row * cols_));
         cells_.resize(cells_.size() - cols_);
     }
-    sqlite3_finalize(st);
 }
 
 } // namespace sql

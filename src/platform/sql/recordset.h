@@ -29,19 +29,15 @@ public:
     // Source: a statement, or a table's name. Throws sql::error; a null connection is an error too.
     void open(const QString& source, const connection_ptr& conn, int cursor = keyset, int lock = read_only);
     void close();
-    bool is_open() const { return open_; }
 
     bool eof() const { return pos_ >= rows(); }
-    bool bof() const { return pos_ < 0 || rows() == 0; }
     void move_next();
-    void move_previous();
     void move_first() { pos_ = 0; }
     void move_last() { pos_ = rows() > 0 ? rows() - 1 : 0; }
     long record_count() const { return long(rows()); }
     long absolute_position() const { return long(pos_); }
 
     int field_count() const { return int(names_.size()) - first_visible_; }
-    QString field_name(int i) const { return names_[std::size_t(i + first_visible_)]; }
     // Index of a field by name, any case; -1 when absent.
     int index_of(const QString& name) const;
 
@@ -57,7 +53,6 @@ public:
     void add_new();
     void set(const QString& name, const QVariant& v);
     void update();
-    void cancel_update();
 
 private:
     struct cell {

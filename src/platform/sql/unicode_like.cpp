@@ -131,10 +131,4 @@ bool unicode_like(std::string_view text, std::string_view pattern) {
     return wildcard(t.data(), t.size(), p.data(), p.size(), fold);
 }
 
-std::string unicode_fold(std::string_view text) {
-    std::string out;
-    fold_into(text, out);
-    return out;
-}
-
 } // namespace sql

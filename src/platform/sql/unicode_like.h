@@ -9,9 +9,8 @@ namespace sql {
 // Both texts are UTF-8.
 bool unicode_like(std::string_view text, std::string_view pattern);
 
-// The text as LIKE compares it: each character case-folded, as UTF-8. The SQL function
-// quintara_fold returns it as a blob (null for null); every connection of the process has it, so an
-// index on it serves `name like 'text'` without wildcards.
-std::string unicode_fold(std::string_view text);
+// The SQL function quintara_fold gives a text as LIKE compares it (each character case-folded, as
+// a UTF-8 blob; null for null); every connection of the process has it, so an index on it serves
+// `name like 'text'` without wildcards.
 
 } // namespace sql

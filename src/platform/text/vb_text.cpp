@@ -90,13 +90,18 @@ QString join_decimal(const decimal_text& d, bool grouping) {
     return d.negative ? QLatin1Char('-') + s : s;
 }
 
+// The whole cents of a currency's magnitude, half away from zero; in unsigned to survive the most
+// negative value.
+std::uint64_t rounded_cents(currency v) {
+    const std::int64_t raw = v.raw();
+    const std::uint64_t mag = raw < 0 ? std::uint64_t(0) - std::uint64_t(raw) : std::uint64_t(raw);
+    return mag / 100 + ((mag % 100) >= 50 ? 1 : 0);
+}
+
 decimal_text round_currency(currency v) {
     decimal_text r;
-    const std::int64_t raw = v.raw();
-    r.negative = raw < 0;
-    // work in unsigned to survive the most negative value
-    std::uint64_t mag = r.negative ? std::uint64_t(0) - std::uint64_t(raw) : std::uint64_t(raw);
-    std::uint64_t cents = mag / 100 + ((mag % 100) >= 50 ? 1 : 0);
+    r.negative = v.raw() < 0;
+    const std::uint64_t cents = rounded_cents(v);
     r.int_digits = std::to_string(cents / 100);
     const unsigned c = unsigned(cents % 100);
     r.frac_digits = {char('0' + c / 10), char('0' + c % 10)};
@@ -161,6 +166,14 @@ std::optional<parsed_number> parse_locale_number(const QString& text) {
     return n;
 }
 
+// CCur's reading: the amount, or nothing with overflow telling an amount out of range from text
+// that is no amount.
+struct parsed_currency {
+    std::optional<currency> value;
+    bool overflow = false;
+};
+parsed_currency parse_currency(const QString& text);
+
 } // namespace
 
 currency currency::from_double(double v) {
@@ -213,13 +226,28 @@ QString reformat_money_text(const QString& text) {
     return c ? format_money(*c) : text;
 }
 
-QString format_fixed(double v, int decimals, bool grouping) {
-    return join_decimal(round_decimal(v, decimals), grouping);
+QString reformat_money_checked(const QString& text) {
+    const parsed_currency c = parse_currency(text);
+    if (c.overflow) throw overflow_error();
+    return c.value ? format_money(*c.value) : text;
 }
 
 std::optional<currency> ccur(const QString& text) {
+    return parse_currency(text).value;
+}
+
+currency ccur_or_throw(const QString& text) {
+    const parsed_currency c = parse_currency(text);
+    if (c.overflow) throw overflow_error();
+    if (!c.value) throw type_mismatch();
+    return *c.value;
+}
+
+namespace {
+
+parsed_currency parse_currency(const QString& text) {
     const auto n = parse_locale_number(text);
-    if (!n) return std::nullopt;
+    if (!n) return {};
     std::string ints = n->int_digits, frac = n->frac_digits;
     // shift by the exponent
     if (n->exponent > 0) {
@@ -242,15 +270,17 @@ std::optional<currency> ccur(const QString& text) {
     for (char c : digits) {
         if (__builtin_mul_overflow(mag, std::uint64_t(10), &mag) ||
             __builtin_add_overflow(mag, std::uint64_t(c - '0'), &mag))
-            throw overflow_error();
+            return {std::nullopt, true};
     }
     if (fifth > '5' || (fifth == '5' && (rest_nonzero || (mag % 2) == 1))) ++mag;
     const std::uint64_t limit = n->negative ? std::uint64_t(raw_max) + 1 : std::uint64_t(raw_max);
-    if (mag > limit) throw overflow_error();
+    if (mag > limit) return {std::nullopt, true};
     if (n->negative)
-        return currency::from_raw(mag == std::uint64_t(raw_max) + 1 ? raw_min : -std::int64_t(mag));
-    return currency::from_raw(std::int64_t(mag));
+        return {currency::from_raw(mag == std::uint64_t(raw_max) + 1 ? raw_min : -std::int64_t(mag)), false};
+    return {currency::from_raw(std::int64_t(mag)), false};
 }
+
+} // namespace
 
 std::optional<double> cdbl(const QString& text) {
     const auto n = parse_locale_number(text);
@@ -262,24 +292,28 @@ std::optional<double> cdbl(const QString& text) {
     return n->negative ? -v : v;
 }
 
-currency ccur_or_throw(const QString& text) {
-    auto c = ccur(text);
-    if (!c) throw type_mismatch();
-    return *c;
-}
-
-double cdbl_or_throw(const QString& text) {
-    auto c = cdbl(text);
-    if (!c) throw type_mismatch();
-    return *c;
-}
-
 currency money_of(const QString& text) {
-    try {
-        return ccur(text).value_or(currency());
-    } catch (const overflow_error&) {
-        return currency();
-    }
+    return ccur(text).value_or(currency());
+}
+
+currency round_to_cents(currency v) {
+    // the largest magnitude, 2^63, rounds down to a whole cent inside the range
+    const std::int64_t r = std::int64_t(rounded_cents(v)) * 100;
+    return currency::from_raw(v.raw() < 0 ? -r : r);
+}
+
+bool add_or_keep(currency& sum, currency v) {
+    std::int64_t r = 0;
+    if (__builtin_add_overflow(sum.raw(), v.raw(), &r)) return false;
+    sum = currency::from_raw(r);
+    return true;
+}
+
+bool subtract_or_keep(currency& sum, currency v) {
+    std::int64_t r = 0;
+    if (__builtin_sub_overflow(sum.raw(), v.raw(), &r)) return false;
+    sum = currency::from_raw(r);
+    return true;
 }
 
 double val(const QString& text) {
@@ -429,10 +463,6 @@ QDateTime cdatetime(const QString& text) {
         if (parsed.isValid()) t = parsed;
     }
     return QDateTime(d, t);
-}
-
-bool is_date(const QString& text) {
-    return cdate(text).isValid();
 }
 
 namespace {

@@ -54,19 +54,27 @@ QString format_money(double v);
 // Format(x, "R$ #,##0.00") with any prefix: the minus goes before the prefix (-R$ 120,00).
 QString format_money_prefixed(currency v, const QString& prefix = QStringLiteral("R$ "));
 // A stored amount text turned into the display text ("1234,5" -> "1.234,50"); text that
-// cannot be read stays as it is.
+// cannot be read, or an amount out of range, stays as it is.
 QString reformat_money_text(const QString& text);
+// The same, except that an amount out of range throws overflow_error: the writes fail on it.
+QString reformat_money_checked(const QString& text);
 
-// Format(x, "0.00") style with a fixed number of decimals and no grouping (1234,50).
-QString format_fixed(double v, int decimals, bool grouping = false);
-
-// CCur / CDbl under the Brazilian locale: "1.234,56", "R$ 1.234,56", "-12", " 7,5 ".
+// CCur / CDbl under the Brazilian locale: "1.234,56", "R$ 1.234,56", "-12", " 7,5 ". ccur gives
+// nothing for text that is no amount and for an amount out of the currency's range.
 std::optional<currency> ccur(const QString& text);
 std::optional<double> cdbl(const QString& text);
+// CCur as the old runtime raised it: type_mismatch for text that is no amount, overflow_error
+// for an amount out of range.
 currency ccur_or_throw(const QString& text);
-double cdbl_or_throw(const QString& text);
 // The amount of a stored text, or zero when it cannot be read (the sums of the lists).
 currency money_of(const QString& text);
+
+// Half away from zero at the cent, as "##,##0.00" rounds (never out of range).
+currency round_to_cents(currency v);
+// sum += v (sum -= v); a result out of range leaves sum as it was and gives false: the old sums
+// ran with errors ignored.
+bool add_or_keep(currency& sum, currency v);
+bool subtract_or_keep(currency& sum, currency v);
 
 // Val: the leading number of a text, point as the decimal mark, blanks skipped, &H/&O prefixes.
 double val(const QString& text);
@@ -83,7 +91,6 @@ std::uint32_t colour_number(const QString& text, std::uint32_t fallback = 0);
 // optional time after a blank; invalid text gives an invalid date.
 QDate cdate(const QString& text);
 QDateTime cdatetime(const QString& text);
-bool is_date(const QString& text);
 // Format(date, fmt) with the tokens d dd ddd dddd m mm mmm mmmm yy yyyy, h hh n nn s ss.
 QString format_date(const QDate& d, const QString& fmt);
 QString format_datetime(const QDateTime& dt, const QString& fmt);

@@ -282,10 +282,6 @@ int msgbox_over(QWidget* window, const QString& text, int style, const QString& 
     return platform::msgbox(text, style, title);
 }
 
-bool abrirarquivo(QWidget*, const QString& path_or_url) {
-    return platform::desktop().open(path_or_url);
-}
-
 atalhos::atalhos(QWidget* window) : QObject(window) {
     install(window);
 }

@@ -71,9 +71,6 @@ private:
 // A message box of a topmost window: stay-on-top off, the box, stay-on-top on again.
 int msgbox_over(QWidget* window, const QString& text, int style, const QString& title);
 
-// Opens a file or a web address with the desktop's own program.
-bool abrirarquivo(QWidget* window, const QString& path_or_url);
-
 // The Alt shortcuts of a window: Alt alone with a registered letter runs its action, from the
 // window and from any of its fields; other letters and other shift states pass on untouched.
 class atalhos : public QObject {

@@ -37,6 +37,15 @@ void fill_names(QComboBox* box, const QStringList& names) {
     box->setEditText(names.isEmpty() ? QString() : names.front());
 }
 
+void set_tab_chain(std::initializer_list<QWidget*> chain) {
+    QWidget* previous = nullptr;
+    for (QWidget* w : chain) {
+        if (!w) continue;
+        if (previous) QWidget::setTabOrder(previous, w);
+        previous = w;
+    }
+}
+
 namespace {
 
 void show_placed(QWidget* form, bool fit) {

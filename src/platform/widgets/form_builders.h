@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QStyle>
 
+#include <initializer_list>
+
 class QComboBox;
 class QLabel;
 class QWidget;
@@ -27,3 +29,5 @@ void fill_names(QComboBox* box, const QStringList& names);
 void show_form(QWidget* form);
 // The same for a window that keeps the size it was given (lists, reports).
 void show_window(QWidget* window);
+// The tab order of a form, in the order given; null entries are skipped.
+void set_tab_chain(std::initializer_list<QWidget*> chain);

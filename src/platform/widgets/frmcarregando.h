@@ -33,7 +33,6 @@ public:
     waiting_window(const waiting_window&) = delete;
     waiting_window& operator=(const waiting_window&) = delete;
 
-    frmcarregando* window() const { return frm_; }
     void set_range(int minimum, int maximum);
     void set_value(int value);
     // Lets pending window events run.

@@ -240,7 +240,6 @@ list_view::list_view(QWidget* parent) : QTreeView(parent), model_(new list_model
             if (twips_to_pixels(c.width_twips, this) != size) c.width_twips = pixels_to_twips(size, this);
         }
     });
-    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& i) { Q_EMIT row_clicked(i.row()); });
 }
 
 list_view::~list_view() = default;
@@ -295,10 +294,6 @@ int list_view::column_tag(int col) const {
     return col >= 0 && col < column_count() ? model_->columns[std::size_t(col)].tag : tag_text;
 }
 
-void list_view::set_column_tag(int col, int tag) {
-    if (col >= 0 && col < column_count()) model_->columns[std::size_t(col)].tag = tag;
-}
-
 int list_view::column_position(int col) const {
     return header()->visualIndex(col) + 1;
 }
@@ -311,11 +306,6 @@ void list_view::set_column_position(int col, int position) {
 
 void list_view::clear_rows() {
     model_->clear_rows();
-}
-
-void list_view::add_row(const QStringList& texts) {
-    std::vector<QStringList> one{texts};
-    model_->add_rows(std::move(one));
 }
 
 void list_view::add_rows(std::vector<QStringList>&& rows) {

@@ -30,15 +30,13 @@ public:
     double column_width(int col) const override;
     void set_column_width(int col, double twips);
     int column_tag(int col) const;
-    void set_column_tag(int col, int tag);
     // Display position, 1-based as the old lists counted it.
     int column_position(int col) const;
     void set_column_position(int col, int position);
 
     // Rows
     void clear_rows();
-    void add_row(const QStringList& texts);
-    // Appends many rows at once (the loaders).
+    // Appends rows at once (the loaders append a whole list in one go).
     void add_rows(std::vector<QStringList>&& rows);
     int row_count() const override;
     QString text(int row, int col) const override;
@@ -64,7 +62,6 @@ public:
 Q_SIGNALS:
     void header_clicked(int col);
     void row_double_clicked(int row);
-    void row_clicked(int row);
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent* e) override;

@@ -21,11 +21,7 @@ money_field::money_field(QWidget* parent) : QLineEdit(parent) {
 }
 
 QString money_field::text_on_entering(const QString& text) {
-    try {
-        return vb::reformat_money_text(text);
-    } catch (const vb::overflow_error&) {
-        return text;
-    }
+    return vb::reformat_money_text(text);
 }
 
 QString money_field::text_on_leaving(const QString& text) {

@@ -25,3 +25,7 @@ void unload_on_close(QWidget* w) {
 bool is_unloaded(const QWidget* w) {
     return w->property(unloaded).toBool();
 }
+
+void mark_unloaded(QWidget* w) {
+    w->setProperty(unloaded, true);
+}

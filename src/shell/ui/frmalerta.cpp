@@ -2,30 +2,19 @@
 #include "platform/widgets/form_builders.h"
 
 #include "platform/clock.h"
+#include "platform/errors.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/list_view.h"
-#include "shell/column_layout.h"
 #include "shell/due_alerts.h"
+#include "shell/ui/ledger_list.h"
 
 #include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <exception>
-
 using shell::ledger;
 
-QPointer<frmalerta> frmalerta::carregada_;
-
-namespace {
-
-void definir_colunas(list_view* l, ledger which) {
-    l->clear_columns();
-    for (const auto& c : shell::ledger_columns(which))
-        l->add_column(c.heading, shell::read_single(c.default_width).value_or(0), c.tag, c.align);
-}
-
-} // namespace
+QPointer<frmalerta> frmalerta::aberto_;
 
 frmalerta::frmalerta(QWidget* parent)
     : QDialog(parent), XTab1(named(new QTabWidget, "XTab1")), lstpagar(named(new list_view, "lstpagar")),
@@ -39,8 +28,8 @@ frmalerta::frmalerta(QWidget* parent)
         "este aviso va ate o menu exibir e desmarque a opção alertas de vencimentos de contas"));
     lblaviso->setWordWrap(true);
 
-    definir_colunas(lstpagar, ledger::pagar);
-    definir_colunas(lstreceber, ledger::receber);
+    shell::definir_colunas(lstpagar, ledger::pagar);
+    shell::definir_colunas(lstreceber, ledger::receber);
     XTab1->addTab(lstpagar, QStringLiteral("Contas a pagar"));
     XTab1->addTab(lstreceber, QStringLiteral("Contas a receber"));
 
@@ -49,21 +38,21 @@ frmalerta::frmalerta(QWidget* parent)
     layout->addWidget(XTab1, 1);
     resize(820, 360);
 
-    carregada_ = this;
+    aberto_ = this;
     sempretopo(QStringLiteral("ativo"), this);
 }
 
 frmalerta::~frmalerta() {
-    if (carregada_ == this) carregada_ = nullptr;
+    if (aberto_ == this) aberto_ = nullptr;
 }
 
-frmalerta* frmalerta::carregada() {
-    return carregada_.data();
+frmalerta* frmalerta::aberto() {
+    return aberto_.data();
 }
 
 frmalerta* frmalerta::VerificarVencimentos_ao_iniciar(QWidget* parent) {
     // a window already loaded looks again instead of a second one opening
-    frmalerta* w = carregada_ ? carregada_.data() : new frmalerta(parent);
+    frmalerta* w = aberto_ ? aberto_.data() : new frmalerta(parent);
     if (!w->VerificarVencimentos()) return nullptr;
     w->show();
     w->raise();
@@ -74,11 +63,8 @@ bool frmalerta::VerificarVencimentos() {
     lstpagar->clear_rows();
     lstreceber->clear_rows();
     shell::due_rows d;
-    try {
-        d = shell::load_due_rows(platform::today());
-    } catch (const std::exception&) {
-        // errors are ignored: nothing found
-    }
+    // errors are ignored: nothing found
+    platform::ignore_errors([&] { d = shell::load_due_rows(platform::today()); });
     const bool any = d.any();
     lstpagar->add_rows(std::move(d.pagar));
     lstreceber->add_rows(std::move(d.receber));
@@ -90,7 +76,7 @@ bool frmalerta::VerificarVencimentos() {
 }
 
 void frmalerta::descarregar() {
-    if (carregada_ == this) carregada_ = nullptr;
+    if (aberto_ == this) aberto_ = nullptr;
     hide();
     deleteLater();
 }

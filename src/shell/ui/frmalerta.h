@@ -15,11 +15,11 @@ public:
     explicit frmalerta(QWidget* parent = nullptr);
     ~frmalerta() override;
 
-    // Step 10 of the main window's opening: loads the window and runs VerificarVencimentos; the
-    // window shows only when some account is due today. Returns it, or nullptr when it unloaded.
+    // At the main window's opening: loads the window and runs VerificarVencimentos; the window
+    // shows only when some account is due today. Returns it, or nullptr when it unloaded.
     static frmalerta* VerificarVencimentos_ao_iniciar(QWidget* parent = nullptr);
     // The loaded window, if any.
-    static frmalerta* carregada();
+    static frmalerta* aberto();
 
     // Fills both lists with the rows due today; with none it unloads the window and returns false.
     bool VerificarVencimentos();
@@ -31,5 +31,5 @@ public:
 
 private:
     void descarregar();
-    static QPointer<frmalerta> carregada_;
+    static QPointer<frmalerta> aberto_;
 };

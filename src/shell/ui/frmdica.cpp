@@ -1,6 +1,7 @@
 #include "shell/ui/frmdica.h"
 #include "platform/widgets/form_builders.h"
 
+#include "platform/errors.h"
 #include "platform/text/vb_text.h"
 #include "platform/widgets/field_helpers.h"
 #include "store/config.h"
@@ -15,7 +16,7 @@
 
 #include <exception>
 
-QPointer<frmdica> frmdica::carregada_;
+QPointer<frmdica> frmdica::aberto_;
 
 namespace {
 
@@ -72,20 +73,20 @@ frmdica::frmdica(QWidget* parent)
     connect(cmdNextTip, &QPushButton::clicked, this, [this] { cmdNextTip_click(); });
     connect(cmdok, &QPushButton::clicked, this, [this] { cmdok_click(); });
 
-    carregada_ = this;
+    aberto_ = this;
 }
 
 frmdica::~frmdica() {
-    if (carregada_ == this) carregada_ = nullptr;
+    if (aberto_ == this) aberto_ = nullptr;
     restaurar();
 }
 
-frmdica* frmdica::carregada() {
-    return carregada_.data();
+frmdica* frmdica::aberto() {
+    return aberto_.data();
 }
 
 frmdica* frmdica::mostrar(bool ao_iniciar, QWidget* parent) {
-    frmdica* w = carregada_;
+    frmdica* w = aberto_;
     if (!w) {
         w = new frmdica(parent);
         if (!w->abrir(ao_iniciar)) {
@@ -161,10 +162,7 @@ void frmdica::restaurar() {
     if (!restaurar_) return;
     const QString valor = *restaurar_;
     restaurar_.reset();
-    try {
-        gravar_dica(valor);
-    } catch (const std::exception&) {
-    }
+    platform::ignore_errors([&] { gravar_dica(valor); });
 }
 
 void frmdica::paintEvent(QPaintEvent* e) {

@@ -29,7 +29,7 @@ public:
     // it had before comes back when the window closes.
     static frmdica* mostrar_por_pedido(QWidget* parent = nullptr);
     // The loaded window, if any.
-    static frmdica* carregada();
+    static frmdica* aberto();
 
     // The opening; false when the window unloaded.
     bool abrir(bool ao_iniciar);
@@ -61,5 +61,5 @@ private:
 
     QPixmap fundo_;
     std::optional<QString> restaurar_; // the value to write back at closing (opened on request)
-    static QPointer<frmdica> carregada_;
+    static QPointer<frmdica> aberto_;
 };

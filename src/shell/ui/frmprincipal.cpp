@@ -2,10 +2,12 @@
 #include "platform/widgets/form_builders.h"
 
 #include "platform/clock.h"
+#include "platform/errors.h"
 #include "platform/prompts.h"
 #include "platform/text/vb_text.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/list_view.h"
+#include "shell/filter_state.h"
 #include "shell/ui/frmalerta.h"
 #include "shell/ui/frmdica.h"
 #include "shell/ui/frmlogin.h"
@@ -33,6 +35,8 @@
 #include <QWindow>
 
 #include <stdexcept>
+
+using shell::ledger;
 
 namespace {
 
@@ -82,17 +86,6 @@ QWidget* labelled(const QString& caption, QWidget* field) {
     return w;
 }
 
-QStringList words(std::initializer_list<const char*> list) {
-    QStringList out;
-    for (const char* s : list)
-        out << QString::fromUtf8(s);
-    return out;
-}
-
-const QStringList periodos_ledger =
-    words({"Todos os dados", "Apenas deste ano", "Apenas deste mês", "Apenas do dia", "Ultimos 7 dias",
-           "Ultimos 15 dias", "Próximos 7 dias", "Próximos 15 dias", "Mês anterior", "Próximo mês"});
-
 } // namespace
 
 frmprincipal* frmprincipal::instance() {
@@ -129,9 +122,8 @@ frmprincipal::frmprincipal() {
     ligar_acoes();
     // activation: the window gets the focus back from another of the program's windows
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* w) {
-        static QPointer<QWindow> previous;
-        QWindow* before = previous;
-        previous = w;
+        QWindow* before = janela_anterior_;
+        janela_anterior_ = w;
         if (!carregado_ || fechando_ || !w || w != windowHandle()) return;
         QWidget* from = nullptr;
         for (QWidget* top : QApplication::topLevelWidgets())
@@ -150,81 +142,46 @@ void frmprincipal::montar_tabs() {
     l->setContentsMargins(0, 0, 0, 0);
     xtab = named(new QTabWidget, "xtab");
     l->addWidget(xtab);
-    xtab->addTab(montar_tab_ledger(true), QStringLiteral("Contas a pagar"));
-    xtab->addTab(montar_tab_ledger(false), QStringLiteral("Contas a receber"));
+    xtab->addTab(montar_tab_ledger(ledger::pagar), QStringLiteral("Contas a pagar"));
+    xtab->addTab(montar_tab_ledger(ledger::receber), QStringLiteral("Contas a receber"));
     xtab->addTab(montar_tab_movimento(), QStringLiteral("Movimento bancário"));
     xtab->addTab(montar_tab_bancos(), QStringLiteral("Bancos e caixa"));
     connect(xtab, &QTabWidget::currentChanged, this, &frmprincipal::tab_mudou);
 }
 
-QWidget* frmprincipal::montar_tab_ledger(bool pagar) {
+QWidget* frmprincipal::montar_tab_ledger(ledger which) {
+    const shell::ledger_traits& t = shell::traits(which);
+    const controles& c = controles_de(which);
     auto* tab = new QWidget;
     auto* v = new QVBoxLayout(tab);
-    auto* top1 = new QWidget;
-    auto* top2 = new QWidget;
+    auto* top1 = (this->*c.top1.member) = named(new QWidget, c.top1.name);
+    auto* top2 = (this->*c.top2.member) = named(new QWidget, c.top2.name);
     auto* h1 = new QHBoxLayout(top1);
     auto* h2 = new QHBoxLayout(top2);
     h1->setContentsMargins(0, 0, 0, 0);
     h2->setContentsMargins(0, 0, 0, 0);
-    auto* tipo = filter_box(pagar ? "cbotipop" : "cbotipor",
-                            words({"Pendentes e Concluídos", "Pendentes", "Concluídos"}));
-    auto* filtro = filter_box(pagar ? "cbofiltrop" : "cbofiltror", periodos_ledger);
-    auto* baseado = filter_box(pagar ? "cbobaseadoP" : "cbobaseadoR", words({"Data Cadastro", "Vencimento"}));
-    auto* banco = filter_box(pagar ? "cbobancop" : "cbobancor", words({"Todos os bancos"}));
-    auto* centro = filter_box(pagar ? "cbocentrocusto" : "cbocentrolucro",
-                              words({pagar ? "Todos os centros de custos" : "Todos os centros de lucros"}));
-    auto* contato = filter_box(pagar ? "cbofornecedor" : "cbocliente",
-                               words({pagar ? "Todos os fornecedores" : "Todos os clientes"}));
-    h1->addWidget(labelled(QStringLiteral("Mostrar:"), tipo));
-    h1->addWidget(labelled(QStringLiteral("Período:"), filtro));
-    h1->addWidget(labelled(QStringLiteral("Baseado em:"), baseado));
-    h1->addStretch();
-    h2->addWidget(labelled(QStringLiteral("Banco:"), banco));
-    h2->addWidget(
-        labelled(pagar ? QStringLiteral("Centro de custo:") : QStringLiteral("Centro de lucro:"), centro));
-    h2->addWidget(labelled(pagar ? QStringLiteral("Fornecedor:") : QStringLiteral("Cliente:"), contato));
-    h2->addStretch();
-    auto* lista = named(new list_view, pagar ? "lstpagar" : "lstreceber");
-    auto* botoes = new QHBoxLayout;
-    QPushButton* b[8] = {
-        button(pagar ? "cmdadicionard" : "cmdadicionarr", "Adicionar"),
-        button(pagar ? "cmdmultiplosp" : "cmdmultiplosr", "Parcelas"),
-        button(pagar ? "cmdalterard" : "cmdalterarr", "Alterar"),
-        button(pagar ? "cmdremoverd" : "cmdremoverr", "Remover"),
-        button(pagar ? "cmdrecibod" : "cmdrecibor", "Recibo"),
-        button(pagar ? "cmdprojecaop" : "cmdprojecoesr", "Projeções"),
-        button(pagar ? "cmdhistoricoforn" : "cmdhistoricocli", "Histórico"),
-        button(pagar ? "cmdmesp" : "cmdmesr", "Por mês"),
+    const auto box = [this](const control<QComboBox>& b, const QStringList& entries) {
+        return (this->*b.member) = filter_box(b.name, entries);
     };
-    for (auto* x : b)
-        botoes->addWidget(x);
-    botoes->addStretch();
-    auto* rotulo = named(new QLabel, pagar ? "lblpagarest" : "lblreceberest");
-    rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    h1->addWidget(labelled(QStringLiteral("Mostrar:"), box(c.tipo, shell::tipo_entries())));
+    h1->addWidget(labelled(QStringLiteral("Período:"), box(c.filtro, shell::filtro_entries())));
+    h1->addWidget(labelled(QStringLiteral("Baseado em:"), box(c.baseado, shell::baseado_entries())));
+    h1->addStretch();
+    h2->addWidget(labelled(QStringLiteral("Banco:"), box(c.banco, {shell::todos_bancos})));
+    h2->addWidget(labelled(t.centro_titulo + QLatin1Char(':'), box(c.centro, {t.todos_centros})));
+    h2->addWidget(labelled(t.contato_titulo + QLatin1Char(':'), box(c.contato, {t.todos_contatos})));
+    h2->addStretch();
     v->addWidget(top1);
     v->addWidget(top2);
-    v->addWidget(lista, 1);
+    v->addWidget((this->*c.lista.member) = named(new list_view, c.lista.name), 1);
+    auto* botoes = new QHBoxLayout;
+    for (const auto& b : c.botoes)
+        botoes->addWidget((this->*b.member) = button(b.name, b.caption));
+    botoes->addStretch();
     v->addLayout(botoes);
-    v->addWidget(rotulo);
-    if (pagar) {
-        pictoppagar = named(top1, "pictoppagar");
-        pictoppagar2 = named(top2, "pictoppagar2");
-        cbotipop = tipo, cbofiltrop = filtro, cbobaseadoP = baseado, cbobancop = banco,
-        cbocentrocusto = centro, cbofornecedor = contato;
-        lstpagar = lista;
-        cmdadicionard = b[0], cmdmultiplosp = b[1], cmdalterard = b[2], cmdremoverd = b[3], cmdrecibod = b[4],
-        cmdprojecaop = b[5], cmdhistoricoforn = b[6], cmdmesp = b[7];
-        lblpagarest = rotulo;
-    } else {
-        pictopreceber = named(top1, "pictopreceber");
-        pictoprec2 = named(top2, "pictoprec2");
-        cbotipor = tipo, cbofiltror = filtro, cbobaseadoR = baseado, cbobancor = banco,
-        cbocentrolucro = centro, cbocliente = contato;
-        lstreceber = lista;
-        cmdadicionarr = b[0], cmdmultiplosr = b[1], cmdalterarr = b[2], cmdremoverr = b[3], cmdrecibor = b[4],
-        cmdprojecoesr = b[5], cmdhistoricocli = b[6], cmdmesr = b[7];
-        lblreceberest = rotulo;
-    }
+    QLabel* l = (this->*c.rotulo.member) = named(new QLabel, c.rotulo.name);
+    l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    v->addWidget(l);
     return tab;
 }
 
@@ -234,11 +191,9 @@ QWidget* frmprincipal::montar_tab_movimento() {
     pictopbancario = named(new QWidget, "pictopbancario");
     auto* h = new QHBoxLayout(pictopbancario);
     h->setContentsMargins(0, 0, 0, 0);
-    cbotipom = filter_box("cbotipom", words({"Todos os dados", "Retiradas", "Depósitos", "Transferências"}));
-    cbofiltrom = filter_box("cbofiltrom", words({"Todos os dados", "Apenas deste ano", "Apenas deste mês",
-                                                 "Apenas do dia", "Ultimos 7 dias", "Ultimos 15 dias"}));
-    cboorgm = filter_box("cboorgm", words({"Data de cadastro", "Tipo de movimento", "Valor", "Estatus",
-                                           "Conta origem", "Conta destino"}));
+    cbotipom = filter_box("cbotipom", shell::tipo_movimento_entries());
+    cbofiltrom = filter_box("cbofiltrom", shell::filtro_movimento_entries());
+    cboorgm = filter_box("cboorgm", shell::organizar_entries());
     optascm = named(new QRadioButton(QStringLiteral("Crescente")), "optascm");
     optdescm = named(new QRadioButton(QStringLiteral("Decrescente")), "optdescm");
     optascm->setChecked(true);
@@ -319,19 +274,17 @@ void frmprincipal::mostrar() {
 
 void frmprincipal::abrir() {
     try {
-        // 1: the background picture; a missing file stops the opening here
+        // the background picture; a missing file stops the opening here
         QPixmap picture;
         const QString fundo = store::program_path(QStringLiteral("\\fundo.gif"));
         if (!picture.load(fundo))
             throw std::runtime_error(QStringLiteral("Arquivo não encontrado: '%1'").arg(fundo).toStdString());
         static_cast<fundo_widget*>(centralWidget())->set_picture(picture);
-        // 2-5
         CarregarDados();
         xtab->setCurrentIndex(0);
         VerificarDica();
         statustexto->setText(QStringLiteral("Seja bem vindo ao software   -   ") +
                              vb::long_date(platform::today()));
-        // 6-7
         item(QStringLiteral("mnuatualizarsaldo"))
             ->setChecked(store::setting(store::secao_config, QStringLiteral("AtualizarSaldo"),
                                         QStringLiteral("1")) != QLatin1String("0"));
@@ -339,7 +292,6 @@ void frmprincipal::abrir() {
                                            QStringLiteral("1")) != QLatin1String("0");
         item(QStringLiteral("mnuexibirprincipal"))->setChecked(exibir);
         picprincipal->setVisible(exibir);
-        // 8
         {
             sql::recordset rs;
             rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset,
@@ -349,9 +301,7 @@ void frmprincipal::abrir() {
             if (rs.text(QStringLiteral("exigirlogin")) == QLatin1String("1"))
                 item(QStringLiteral("mnulogininiciar"))->setChecked(true);
         }
-        // 9
-        if (store::setting(store::secao_config, QStringLiteral("ExibirPrincipal"), QStringLiteral("1")) ==
-            QLatin1String("1")) {
+        if (store::exibir_principal()) {
             carregarpagar();
             dadospagar();
             carregarreceber();
@@ -360,23 +310,16 @@ void frmprincipal::abrir() {
             CarregarConfigSoft();
             QCoreApplication::processEvents();
         }
-        // 10
         if (store::setting(store::secao_config, QStringLiteral("AlertasVencimento"), QStringLiteral("1")) ==
             QLatin1String("1")) {
             item(QStringLiteral("mnualertavenc"))->setChecked(true);
             frmalerta::VerificarVencimentos_ao_iniciar(this);
         }
-        // 11
         CarregarColuna();
-    } catch (const sql::error& e) {
-        platform::msgbox(
-            QStringLiteral("Ocorreu o seguinte erro ao tentar abrir o banco de dados: ") + e.description() +
-                QStringLiteral(" o banco de dados foi definido como local, reinicie o software."),
-            platform::critical, QStringLiteral("Erro"));
     } catch (const std::exception& e) {
         platform::msgbox(
             QStringLiteral("Ocorreu o seguinte erro ao tentar abrir o banco de dados: ") +
-                QString::fromUtf8(e.what()) +
+                platform::error_text(e) +
                 QStringLiteral(" o banco de dados foi definido como local, reinicie o software."),
             platform::critical, QStringLiteral("Erro"));
     }
@@ -393,17 +336,11 @@ void frmprincipal::VerificarDica() {
 void frmprincipal::ativar() {
     // each step runs with errors ignored
     store::conectarbanco();
-    try {
-        SalvarColuna();
-    } catch (const std::exception&) {
-    }
+    platform::ignore_errors([this] { SalvarColuna(); });
     QString exigir;
     if (ler_exigirlogin(exigir))
         item(QStringLiteral("mnulogininiciar"))->setChecked(exigir == QLatin1String("1"));
-    try {
-        CarregarConfigSoft();
-    } catch (const std::exception&) {
-    }
+    platform::ignore_errors([this] { CarregarConfigSoft(); });
 }
 
 bool frmprincipal::ler_exigirlogin(QString& valor) {
@@ -472,25 +409,21 @@ void frmprincipal::pintarlinhas(list_view* lista, const QColor& cor1, const QCol
 }
 
 void frmprincipal::tab_mudou(int index) {
-    try {
+    platform::ignore_errors([&] {
         if (index == 3) {
             SalvarColuna();
             carregarbancos();
-        } else if (index == 0) {
-            dadospagar();
-        } else if (index == 1) {
-            dadosreceber();
+        } else if (index == shell::traits(ledger::pagar).aba) {
+            carregar_filtros(ledger::pagar);
+        } else if (index == shell::traits(ledger::receber).aba) {
+            carregar_filtros(ledger::receber);
         }
-    } catch (const std::exception&) {
-    }
+    });
 }
 
 void frmprincipal::closeEvent(QCloseEvent* e) {
     fechando_ = true;
-    try {
-        SalvarColuna();
-    } catch (const std::exception&) {
-    }
+    platform::ignore_errors([this] { SalvarColuna(); });
     e->accept();
     desligar();
 }

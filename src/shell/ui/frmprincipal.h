@@ -8,6 +8,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <array>
+
 class QAction;
 class QComboBox;
 class QLabel;
@@ -19,9 +21,11 @@ class QRadioButton;
 class QTabWidget;
 class QToolBar;
 class QToolButton;
+class QWindow;
 class list_view;
 namespace shell {
 struct entry_filters;
+struct movement_filters;
 } // namespace shell
 
 class frmprincipal : public QMainWindow, public shell::principal_api {
@@ -157,9 +161,30 @@ protected:
     void closeEvent(QCloseEvent* e) override;
 
 private:
+    template <class T> struct control {
+        T* frmprincipal::*member = nullptr;
+        const char* name = nullptr;
+    };
+    struct botao {
+        QPushButton* frmprincipal::*member;
+        const char* name;
+        const char* caption;
+    };
+    // The controls of a ledger's tab by the members that hold them: the twins pagar and receber
+    // differ in these names only. bancario has its list, label and order text only.
+    struct controles {
+        control<list_view> lista;
+        control<QLabel> rotulo;
+        QString frmprincipal::*ordem = nullptr;
+        control<QWidget> top1, top2;
+        control<QComboBox> tipo, filtro, baseado, banco, centro, contato;
+        std::array<botao, 8> botoes;
+    };
+    static const controles& controles_de(shell::ledger which);
+
     frmprincipal();
     void montar_tabs();
-    QWidget* montar_tab_ledger(bool pagar);
+    QWidget* montar_tab_ledger(shell::ledger which);
     QWidget* montar_tab_movimento();
     QWidget* montar_tab_bancos();
     void montar_menus();
@@ -169,9 +194,13 @@ private:
 
     // The ledger lists, by which one
     list_view* lista(shell::ledger which) const;
+    QLabel* rotulo(shell::ledger which) const;
     shell::entry_filters filtros(shell::ledger which) const;
-    void carregar_entradas(shell::ledger which);
-    void dados_entradas(shell::ledger which);
+    shell::movement_filters filtros_movimento() const;
+    // Removal and settling of the selected row (frmprincipal_acoes.cpp)
+    void remover(shell::ledger which);
+    void dar_baixa(shell::ledger which);
+    void salvar_filtros(shell::ledger which);
     void cabecalho_clicado(shell::ledger which);
 
     // Opening and activation
@@ -193,4 +222,10 @@ private:
     QHash<QString, QToolButton*> toolbar_buttons_;
     bool carregado_ = false;
     bool fechando_ = false;
+    // The window that had the focus before the latest change: coming back from another of the
+    // program's windows is an activation.
+    QPointer<QWindow> janela_anterior_;
+    // A refresh of the accounts list asked for while one runs (the waiting window lets events
+    // through) is that one.
+    bool carregando_bancos_ = false;
 };

@@ -11,6 +11,7 @@
 #include "shell/popup_menus.h"
 #include "shell/principal_api.h"
 #include "shell/ui/frmprincipal.h"
+#include "shell/ui/ledger_list.h"
 #include "store/conexao.h"
 #include "store/config.h"
 
@@ -59,11 +60,6 @@ rotina rotina_de(const QString& nome) {
     return nullptr;
 }
 
-// Every event routine runs with errors ignored: a failing step is skipped.
-template <class F> void ignorando(F&& f) {
-    platform::ignore_errors(std::forward<F>(f));
-}
-
 // A routine of this window, or one that another subsystem registered (the receipt's).
 bool existe(const QString& nome) {
     return rotina_de(nome) != nullptr || shell::find_action(nome) != nullptr;
@@ -71,52 +67,13 @@ bool existe(const QString& nome) {
 
 void executar(frmprincipal* p, const QString& nome) {
     if (const rotina r = rotina_de(nome))
-        ignorando([&] { (p->*r)(); });
+        platform::ignore_errors([&] { (p->*r)(); });
     else
         shell::run_action(nome);
 }
 
-// The row an action works on: none for an empty list or when nothing is selected.
-int linha_selecionada(const list_view* l) {
-    if (l->row_count() == 0) return -1;
-    const int row = l->selected_row();
-    return row < l->row_count() ? row : -1;
-}
-
 bool perguntar(const QString& texto, const QString& titulo) {
     return platform::msgbox(texto, platform::yes_no | platform::question, titulo) == platform::answer_yes;
-}
-
-void remover_entrada(frmprincipal* p, ledger which) {
-    list_view* l = which == ledger::pagar     ? p->lstpagar
-                   : which == ledger::receber ? p->lstreceber
-                                              : p->lstmovimento;
-    const int row = linha_selecionada(l);
-    if (row < 0) return;
-    if (!perguntar(shell::remove_question(which), shell::remove_title)) return;
-    p->codigoselecionado = vb::val(l->text(row, 0));
-    l->remove_row(row);
-    shell::run_removal(shell::delete_statement(which, p->codigoselecionado));
-    waiting_window::yield();
-    ignorando([&] {
-        if (which == ledger::pagar)
-            p->carregarpagar();
-        else if (which == ledger::receber)
-            p->carregarreceber();
-        else
-            p->carregarbancario();
-    });
-}
-
-void dar_baixa(frmprincipal* p, ledger which) {
-    list_view* l = which == ledger::pagar ? p->lstpagar : p->lstreceber;
-    const int row = linha_selecionada(l);
-    if (row < 0) return;
-    p->codigoselecionado = vb::val(l->text(row, 0));
-    shell::settle_entry(which, p->codigoselecionado, platform::today(),
-                        [&] { return perguntar(shell::settle_question(which), shell::settle_title); });
-    ignorando([&] { which == ledger::pagar ? p->carregarpagar() : p->carregarreceber(); });
-    ignorando([&] { p->carregarbancos(); });
 }
 
 // --- pop-up menus --------------------------------------------------------------------------
@@ -167,7 +124,7 @@ void executar_popup(frmprincipal* p, const popup_entry& e) {
         executar(p, e.target);
         break;
     case popup_kind::menu_item:
-        ignorando([&] { p->executar_item(e.target); });
+        platform::ignore_errors([&] { p->executar_item(e.target); });
         break;
     case popup_kind::window:
         shell::run_action(e.target);
@@ -176,7 +133,7 @@ void executar_popup(frmprincipal* p, const popup_entry& e) {
         shell::run_action(e.name);
         break;
     case popup_kind::filter:
-        ignorando([&] {
+        platform::ignore_errors([&] {
             if (top == QLatin1String("poppagar")) {
                 p->cbofiltrop->setCurrentText(e.target);
                 p->salvartudopagar();
@@ -191,11 +148,11 @@ void executar_popup(frmprincipal* p, const popup_entry& e) {
     case popup_kind::order:
         store::save_setting(store::secao_config, QStringLiteral("Ordem"), e.target);
         marcar(p, e);
-        ignorando([&] { p->carregarbancario(); });
+        platform::ignore_errors([&] { p->carregarbancario(); });
         break;
     case popup_kind::order_clause:
         shell::set_ordem_bancario(e.target);
-        ignorando([&] { p->carregarbancario(); });
+        platform::ignore_errors([&] { p->carregarbancario(); });
         break;
     case popup_kind::view:
         // the key is written with a small b; readers spell it with a capital one
@@ -301,20 +258,43 @@ void mostrar_popup(frmprincipal* p, list_view* l, const QString& nome, const QPo
 
 } // namespace
 
+void frmprincipal::remover(ledger which) {
+    list_view* l = lista(which);
+    const int row = shell::linha_selecionada(l);
+    if (row < 0) return;
+    if (!perguntar(shell::remove_question(which), shell::remove_title)) return;
+    codigoselecionado = vb::val(l->text(row, 0));
+    l->remove_row(row);
+    shell::run_removal(shell::delete_statement(which, codigoselecionado));
+    waiting_window::yield();
+    platform::ignore_errors([&] { carregar(which); });
+}
+
+void frmprincipal::dar_baixa(ledger which) {
+    list_view* l = lista(which);
+    const int row = shell::linha_selecionada(l);
+    if (row < 0) return;
+    codigoselecionado = vb::val(l->text(row, 0));
+    shell::settle_entry(which, codigoselecionado, platform::today(),
+                        [&] { return perguntar(shell::settle_question(which), shell::settle_title); });
+    platform::ignore_errors([&] { carregar(which); });
+    platform::ignore_errors([this] { carregarbancos(); });
+}
+
 void frmprincipal::removerpagar() {
-    remover_entrada(this, ledger::pagar);
+    remover(ledger::pagar);
 }
 
 void frmprincipal::removerreceber() {
-    remover_entrada(this, ledger::receber);
+    remover(ledger::receber);
 }
 
 void frmprincipal::removermovimento() {
-    remover_entrada(this, ledger::bancario);
+    remover(ledger::bancario);
 }
 
 void frmprincipal::removerbanco() {
-    const int row = linha_selecionada(lstcaixabanco);
+    const int row = shell::linha_selecionada(lstcaixabanco);
     if (row < 0) return;
     const QString banco = lstcaixabanco->text(row, 0);
     if (!perguntar(shell::remove_bank_question(banco, lstcaixabanco->text(row, 1)), shell::remove_title))
@@ -322,15 +302,15 @@ void frmprincipal::removerbanco() {
     lstcaixabanco->remove_row(row);
     shell::run_removal(shell::delete_bank_statement(banco));
     waiting_window::yield();
-    ignorando([this] { carregarbancos(); });
+    platform::ignore_errors([this] { carregarbancos(); });
 }
 
 void frmprincipal::popbaixapagar() {
-    dar_baixa(this, ledger::pagar);
+    dar_baixa(ledger::pagar);
 }
 
 void frmprincipal::popbaixareceber() {
-    dar_baixa(this, ledger::receber);
+    dar_baixa(ledger::receber);
 }
 
 void frmprincipal::ligar_acoes() {

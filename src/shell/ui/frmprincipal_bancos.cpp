@@ -20,13 +20,12 @@ void definir_colunas(list_view* l) {
 } // namespace
 
 void frmprincipal::carregarbancos() {
-    // the waiting window lets events through: a refresh asked for meanwhile is this one
-    static bool carregando = false;
-    if (carregando) return;
-    carregando = true;
+    if (carregando_bancos_) return;
+    carregando_bancos_ = true;
     struct fim {
-        ~fim() { carregando = false; }
-    } fim_;
+        bool& flag;
+        ~fim() { flag = false; }
+    } fim_{carregando_bancos_};
     if (lstcaixabanco->column_count() == 0) definir_colunas(lstcaixabanco);
     const bool atualizar = banks::atualizar_saldo();
     lstcaixabanco->clear_rows();

@@ -7,33 +7,19 @@
 #include "platform/text/vb_text.h"
 #include "platform/widgets/list_view.h"
 #include "shell/ui/frmprincipal.h"
+#include "shell/ui/ledger_list.h"
 
 namespace {
 
-// The row an action works on: none for an empty list or when nothing is selected.
-int linha_selecionada(const list_view* l) {
-    if (l->row_count() == 0) return -1;
-    const int row = l->selected_row();
-    return row < l->row_count() ? row : -1;
-}
-
-void adicionar(entries::kind k) {
+void adicionar(shell::ledger k) {
     frmadicionar* f = frmadicionar::instance();
     f->vestir(entries::dress_for_adding(k));
     f->mostrar();
-    if (k == entries::kind::despesa) {
-        f->carregarfornecedor();
-        f->planopagar();
-        f->carregarbanco();
-    } else {
-        f->carregarbanco();
-        f->carregarcliente();
-        f->planoreceber();
-    }
+    f->carregar_caixas(k);
 }
 
-void alterar(frmprincipal* p, list_view* lista, entries::kind k) {
-    const int row = linha_selecionada(lista);
+void alterar(frmprincipal* p, list_view* lista, shell::ledger k) {
+    const int row = shell::linha_selecionada(lista);
     if (row < 0) return;
     const QString codigo = lista->text(row, 0);
     p->codigoselecionado = vb::val(codigo);
@@ -45,11 +31,11 @@ void alterar(frmprincipal* p, list_view* lista, entries::kind k) {
 } // namespace
 
 void frmprincipal::adicionarpagar() {
-    adicionar(entries::kind::despesa);
+    adicionar(shell::ledger::pagar);
 }
 
 void frmprincipal::adicionarreceber() {
-    adicionar(entries::kind::receita);
+    adicionar(shell::ledger::receber);
 }
 
 void frmprincipal::adicionarbanco() {
@@ -57,15 +43,15 @@ void frmprincipal::adicionarbanco() {
 }
 
 void frmprincipal::alterarpagar() {
-    alterar(this, lstpagar, entries::kind::despesa);
+    alterar(this, lstpagar, shell::ledger::pagar);
 }
 
 void frmprincipal::alterarreceber() {
-    alterar(this, lstreceber, entries::kind::receita);
+    alterar(this, lstreceber, shell::ledger::receber);
 }
 
 void frmprincipal::alterarbanco() {
-    const int row = linha_selecionada(lstcaixabanco);
+    const int row = shell::linha_selecionada(lstcaixabanco);
     if (row < 0) return;
     bancoselecionado = lstcaixabanco->text(row, 0);
     saldoselecionado = lstcaixabanco->text(row, 1);

@@ -8,7 +8,7 @@
 #include "shell/ledger_load.h"
 #include "shell/ledger_statement.h"
 #include "shell/ui/frmprincipal.h"
-#include "store/conexao.h"
+#include "shell/ui/ledger_list.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -21,14 +21,6 @@ using shell::ledger;
 
 namespace {
 
-constexpr ledger all_ledgers[] = {ledger::pagar, ledger::receber, ledger::bancario};
-
-void definir_colunas(list_view* l, ledger which) {
-    l->clear_columns();
-    for (const auto& c : shell::ledger_columns(which))
-        l->add_column(c.heading, shell::read_single(c.default_width).value_or(0), c.tag, c.align);
-}
-
 // A box keeps its text while its entries are refilled.
 void preencher(QComboBox* box, const QStringList& entradas) {
     const QString texto = box->currentText();
@@ -39,55 +31,99 @@ void preencher(QComboBox* box, const QStringList& entradas) {
 
 } // namespace
 
+const frmprincipal::controles& frmprincipal::controles_de(ledger which) {
+    using f = frmprincipal;
+    static const controles pagar{
+        {&f::lstpagar, "lstpagar"},
+        {&f::lblpagarest, "lblpagarest"},
+        &f::ordempagar,
+        {&f::pictoppagar, "pictoppagar"},
+        {&f::pictoppagar2, "pictoppagar2"},
+        {&f::cbotipop, "cbotipop"},
+        {&f::cbofiltrop, "cbofiltrop"},
+        {&f::cbobaseadoP, "cbobaseadoP"},
+        {&f::cbobancop, "cbobancop"},
+        {&f::cbocentrocusto, "cbocentrocusto"},
+        {&f::cbofornecedor, "cbofornecedor"},
+        {{{&f::cmdadicionard, "cmdadicionard", "Adicionar"},
+          {&f::cmdmultiplosp, "cmdmultiplosp", "Parcelas"},
+          {&f::cmdalterard, "cmdalterard", "Alterar"},
+          {&f::cmdremoverd, "cmdremoverd", "Remover"},
+          {&f::cmdrecibod, "cmdrecibod", "Recibo"},
+          {&f::cmdprojecaop, "cmdprojecaop", "Projeções"},
+          {&f::cmdhistoricoforn, "cmdhistoricoforn", "Histórico"},
+          {&f::cmdmesp, "cmdmesp", "Por mês"}}},
+    };
+    static const controles receber{
+        {&f::lstreceber, "lstreceber"},
+        {&f::lblreceberest, "lblreceberest"},
+        &f::ordemreceber,
+        {&f::pictopreceber, "pictopreceber"},
+        {&f::pictoprec2, "pictoprec2"},
+        {&f::cbotipor, "cbotipor"},
+        {&f::cbofiltror, "cbofiltror"},
+        {&f::cbobaseadoR, "cbobaseadoR"},
+        {&f::cbobancor, "cbobancor"},
+        {&f::cbocentrolucro, "cbocentrolucro"},
+        {&f::cbocliente, "cbocliente"},
+        {{{&f::cmdadicionarr, "cmdadicionarr", "Adicionar"},
+          {&f::cmdmultiplosr, "cmdmultiplosr", "Parcelas"},
+          {&f::cmdalterarr, "cmdalterarr", "Alterar"},
+          {&f::cmdremoverr, "cmdremoverr", "Remover"},
+          {&f::cmdrecibor, "cmdrecibor", "Recibo"},
+          {&f::cmdprojecoesr, "cmdprojecoesr", "Projeções"},
+          {&f::cmdhistoricocli, "cmdhistoricocli", "Histórico"},
+          {&f::cmdmesr, "cmdmesr", "Por mês"}}},
+    };
+    static const controles bancario = [] {
+        controles c{};
+        c.lista = {&f::lstmovimento, "lstmovimento"};
+        c.rotulo = {&f::lblmovimentoest, "lblmovimentoest"};
+        return c;
+    }();
+    return which == ledger::pagar ? pagar : which == ledger::receber ? receber : bancario;
+}
+
 list_view* frmprincipal::lista(ledger which) const {
-    switch (which) {
-    case ledger::pagar:
-        return lstpagar;
-    case ledger::receber:
-        return lstreceber;
-    default:
-        return lstmovimento;
-    }
+    return this->*controles_de(which).lista.member;
+}
+
+QLabel* frmprincipal::rotulo(ledger which) const {
+    return this->*controles_de(which).rotulo.member;
 }
 
 shell::entry_filters frmprincipal::filtros(ledger which) const {
-    if (which == ledger::pagar)
-        return {cbotipop->currentText(),  cbofiltrop->currentText(),     cbobaseadoP->currentText(),
-                cbobancop->currentText(), cbocentrocusto->currentText(), cbofornecedor->currentText()};
-    return {cbotipor->currentText(),  cbofiltror->currentText(),     cbobaseadoR->currentText(),
-            cbobancor->currentText(), cbocentrolucro->currentText(), cbocliente->currentText()};
+    const controles& c = controles_de(which);
+    const auto texto = [this](const control<QComboBox>& b) { return (this->*b.member)->currentText(); };
+    return {texto(c.tipo),  texto(c.filtro), texto(c.baseado),
+            texto(c.banco), texto(c.centro), texto(c.contato)};
+}
+
+shell::movement_filters frmprincipal::filtros_movimento() const {
+    return {cbotipom->currentText(), cbofiltrom->currentText(), cboorgm->currentText(), optascm->isChecked()};
 }
 
 void frmprincipal::ligar_filtros() {
-    for (ledger which : all_ledgers) {
+    for (ledger which : shell::all_ledgers) {
         list_view* l = lista(which);
-        definir_colunas(l, which);
+        shell::definir_colunas(l, which);
         connect(l, &list_view::header_clicked, this, [this, which](int) { cabecalho_clicado(which); });
-    }
-    const struct {
-        QComboBox* box;
-        ledger which;
-    } boxes[] = {
-        {cbotipop, ledger::pagar},    {cbofiltrop, ledger::pagar},       {cbobaseadoP, ledger::pagar},
-        {cbobancop, ledger::pagar},   {cbocentrocusto, ledger::pagar},   {cbofornecedor, ledger::pagar},
-        {cbotipor, ledger::receber},  {cbofiltror, ledger::receber},     {cbobaseadoR, ledger::receber},
-        {cbobancor, ledger::receber}, {cbocentrolucro, ledger::receber}, {cbocliente, ledger::receber},
-        {cbotipom, ledger::bancario}, {cbofiltrom, ledger::bancario},    {cboorgm, ledger::bancario}};
-    for (const auto& b : boxes) {
-        discard_keys(b.box);
-        const ledger which = b.which;
-        connect(b.box, &QComboBox::activated, this, [this, which](int) {
-            if (which == ledger::pagar) {
-                carregarpagar();
-                salvartudopagar();
-            } else if (which == ledger::receber) {
-                carregarreceber();
-                salvartudoreceber();
-            } else {
-                carregarbancario();
-                salvartudobancario();
-            }
-        });
+        // a box's choice reloads its list and keeps the boxes' texts
+        const auto ligar = [this, which](QComboBox* box) {
+            discard_keys(box);
+            connect(box, &QComboBox::activated, this, [this, which](int) {
+                carregar(which);
+                salvar_filtros(which);
+            });
+        };
+        if (which == ledger::bancario) {
+            for (QComboBox* box : {cbotipom, cbofiltrom, cboorgm})
+                ligar(box);
+            continue;
+        }
+        const controles& c = controles_de(which);
+        for (const auto* b : {&c.tipo, &c.filtro, &c.baseado, &c.banco, &c.centro, &c.contato})
+            ligar(this->*b->member);
     }
     for (QRadioButton* o : {optascm, optdescm})
         connect(o, &QRadioButton::clicked, this, [this]() {
@@ -96,80 +132,63 @@ void frmprincipal::ligar_filtros() {
         });
 }
 
-void frmprincipal::carregar_entradas(ledger which) {
+void frmprincipal::carregar(ledger which) {
     list_view* l = lista(which);
-    QLabel* rotulo = which == ledger::pagar     ? lblpagarest
-                     : which == ledger::receber ? lblreceberest
-                                                : lblmovimentoest;
-    shell::built_statement b;
-    if (which == ledger::bancario) {
-        shell::movement_filters f{cbotipom->currentText(), cbofiltrom->currentText(), cboorgm->currentText(),
-                                  optascm->isChecked()};
-        b = shell::movement_statement(f, platform::today(), sqlatual);
-    } else {
-        b = shell::entry_statement(which, filtros(which), platform::today(), sqlatual);
-    }
+    const shell::built_statement b =
+        which == ledger::bancario
+            ? shell::movement_statement(filtros_movimento(), platform::today(), sqlatual)
+            : shell::entry_statement(which, filtros(which), platform::today(), sqlatual);
     sqlatual = b.sqlatual;
     l->clear_rows();
     std::optional<waiting_window> espera;
     shell::ledger_view v = shell::load_ledger(which, b.consulta, [&]() {
-        espera.emplace(this, shell::waiting_title(which), shell::waiting_text());
+        espera.emplace(this, shell::traits(which).carregando, shell::waiting_text());
     });
     l->add_rows(std::move(v.rows));
     espera.reset();
-    rotulo->setText(v.label);
+    rotulo(which)->setText(v.label);
 }
 
 void frmprincipal::carregarpagar() {
-    carregar_entradas(ledger::pagar);
+    carregar(ledger::pagar);
 }
 void frmprincipal::carregarreceber() {
-    carregar_entradas(ledger::receber);
+    carregar(ledger::receber);
 }
 void frmprincipal::carregarbancario() {
-    carregar_entradas(ledger::bancario);
-}
-void frmprincipal::carregar(ledger which) {
-    carregar_entradas(which);
-}
-void frmprincipal::carregar_filtros(ledger which) {
-    if (which != ledger::bancario) dados_entradas(which);
+    carregar(ledger::bancario);
 }
 void frmprincipal::mostrar_aba(ledger which) {
-    xtab->setCurrentIndex(static_cast<int>(which));
+    xtab->setCurrentIndex(shell::traits(which).aba);
 }
 
-void frmprincipal::dados_entradas(ledger which) {
+void frmprincipal::carregar_filtros(ledger which) {
+    if (which == ledger::bancario) return;
+    const controles& c = controles_de(which);
     const auto boxes = shell::load_boxes(which);
-    QComboBox* alvo[3] = {which == ledger::pagar ? cbocentrocusto : cbocentrolucro,
-                          which == ledger::pagar ? cbofornecedor : cbocliente,
-                          which == ledger::pagar ? cbobancop : cbobancor};
-    for (int i = 0; i < 3; ++i)
-        preencher(alvo[i], boxes[std::size_t(i)]);
+    preencher(this->*c.centro.member, boxes[0]);
+    preencher(this->*c.contato.member, boxes[1]);
+    preencher(this->*c.banco.member, boxes[2]);
 }
 
 void frmprincipal::dadospagar() {
-    dados_entradas(ledger::pagar);
+    carregar_filtros(ledger::pagar);
 }
 void frmprincipal::dadosreceber() {
-    dados_entradas(ledger::receber);
+    carregar_filtros(ledger::receber);
 }
 
 void frmprincipal::CarregarDados() {
-    const shell::entry_filters p = shell::read_entry_filters(ledger::pagar);
-    cbotipop->setCurrentText(p.tipo);
-    cbofiltrop->setCurrentText(p.filtro);
-    cbobaseadoP->setCurrentText(p.baseado);
-    cbobancop->setCurrentText(p.banco);
-    cbocentrocusto->setCurrentText(p.centro);
-    cbofornecedor->setCurrentText(p.contato);
-    const shell::entry_filters r = shell::read_entry_filters(ledger::receber);
-    cbotipor->setCurrentText(r.tipo);
-    cbofiltror->setCurrentText(r.filtro);
-    cbobaseadoR->setCurrentText(r.baseado);
-    cbobancor->setCurrentText(r.banco);
-    cbocentrolucro->setCurrentText(r.centro);
-    cbocliente->setCurrentText(r.contato);
+    for (ledger which : {ledger::pagar, ledger::receber}) {
+        const controles& c = controles_de(which);
+        const shell::entry_filters f = shell::read_entry_filters(which);
+        (this->*c.tipo.member)->setCurrentText(f.tipo);
+        (this->*c.filtro.member)->setCurrentText(f.filtro);
+        (this->*c.baseado.member)->setCurrentText(f.baseado);
+        (this->*c.banco.member)->setCurrentText(f.banco);
+        (this->*c.centro.member)->setCurrentText(f.centro);
+        (this->*c.contato.member)->setCurrentText(f.contato);
+    }
     const shell::movement_filters m = shell::read_movement_filters();
     cbotipom->setCurrentText(m.tipo);
     cbofiltrom->setCurrentText(m.filtro);
@@ -177,19 +196,25 @@ void frmprincipal::CarregarDados() {
     (m.ascendente ? optascm : optdescm)->setChecked(true);
 }
 
+void frmprincipal::salvar_filtros(ledger which) {
+    if (which == ledger::bancario)
+        shell::save_movement_filters(filtros_movimento());
+    else
+        shell::save_entry_filters(which, filtros(which));
+}
+
 void frmprincipal::salvartudopagar() {
-    shell::save_entry_filters(ledger::pagar, filtros(ledger::pagar));
+    salvar_filtros(ledger::pagar);
 }
 void frmprincipal::salvartudoreceber() {
-    shell::save_entry_filters(ledger::receber, filtros(ledger::receber));
+    salvar_filtros(ledger::receber);
 }
 void frmprincipal::salvartudobancario() {
-    shell::save_movement_filters(
-        {cbotipom->currentText(), cbofiltrom->currentText(), cboorgm->currentText(), optascm->isChecked()});
+    salvar_filtros(ledger::bancario);
 }
 
 void frmprincipal::CarregarColuna() {
-    for (ledger which : all_ledgers) {
+    for (ledger which : shell::all_ledgers) {
         list_view* l = lista(which);
         const shell::column_layout c = shell::read_layout(which);
         for (std::size_t i = 0; i < c.widths.size(); ++i)
@@ -205,7 +230,7 @@ void frmprincipal::CarregarColuna() {
 }
 
 void frmprincipal::SalvarColuna() {
-    for (ledger which : all_ledgers) {
+    for (ledger which : shell::all_ledgers) {
         list_view* l = lista(which);
         shell::column_layout c;
         for (int i = 0; i < l->column_count(); ++i) {
@@ -221,6 +246,6 @@ void frmprincipal::cabecalho_clicado(ledger which) {
     list_view* l = lista(which);
     const auto ordem = shell::header_order(which, l->arrow_column(), l->arrow_ascending());
     if (!ordem) return;
-    (which == ledger::pagar ? ordempagar : ordemreceber) = *ordem;
+    this->*controles_de(which).ordem = *ordem;
     shell::save_header_order(which, *ordem);
 }

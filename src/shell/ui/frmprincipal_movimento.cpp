@@ -5,14 +5,15 @@
 #include "platform/text/vb_text.h"
 #include "platform/widgets/list_view.h"
 #include "shell/ui/frmprincipal.h"
+#include "shell/ui/ledger_list.h"
 
 void frmprincipal::adicionarmovimento() {
     frmmovimentobanc::instance()->mostrar();
 }
 
 void frmprincipal::alterarmovimento() {
-    const int row = lstmovimento->selected_row();
-    if (lstmovimento->row_count() == 0 || row < 0) return;
+    const int row = shell::linha_selecionada(lstmovimento);
+    if (row < 0) return;
     codigoselecionado = vb::val(lstmovimento->text(row, 0));
     frmeditarbancario* w = frmeditarbancario::instance();
     // Errors ignored: a row that cannot be read leaves the fields as they are.

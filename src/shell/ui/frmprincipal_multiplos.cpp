@@ -2,20 +2,21 @@
 #include "entries/ui/frmmultiplos.h"
 #include "shell/ui/frmprincipal.h"
 
-void frmprincipal::multiplospagar() {
+namespace {
+
+void multiplos(shell::ledger k) {
     frmmultiplos* f = frmmultiplos::instance();
     f->mostrar();
-    f->vestir(entries::dress_for_series(entries::kind::despesa));
-    f->carregarfornecedor();
-    f->planopagar();
-    f->carregarbanco();
+    f->vestir(entries::dress_for_series(k));
+    f->carregar_caixas(k);
+}
+
+} // namespace
+
+void frmprincipal::multiplospagar() {
+    multiplos(shell::ledger::pagar);
 }
 
 void frmprincipal::multiplosreceber() {
-    frmmultiplos* f = frmmultiplos::instance();
-    f->mostrar();
-    f->vestir(entries::dress_for_series(entries::kind::receita));
-    f->carregarbanco();
-    f->carregarcliente();
-    f->planoreceber();
+    multiplos(shell::ledger::receber);
 }

@@ -41,8 +41,8 @@ protected:
              "('Bradesco', ' ', '0,00'), ('Caixa', ' ', '50,00')");
     }
     void TearDown() override {
-        delete frmmovimentobanc::loaded();
-        delete frmeditarbancario::loaded();
+        delete frmmovimentobanc::aberto();
+        delete frmeditarbancario::aberto();
         if (frmprincipal::exists()) delete frmprincipal::instance();
         QCoreApplication::processEvents();
         support::fixture::TearDown();
@@ -72,7 +72,7 @@ protected:
 
     frmmovimentobanc* abrir_adicionar() {
         frmprincipal::instance()->adicionarmovimento();
-        frmmovimentobanc* w = frmmovimentobanc::loaded();
+        frmmovimentobanc* w = frmmovimentobanc::aberto();
         EXPECT_NE(w, nullptr);
         return w;
     }
@@ -83,7 +83,7 @@ protected:
         for (int r = 0; r < p->lstmovimento->row_count(); ++r)
             if (p->lstmovimento->text(r, 0) == codigo) p->lstmovimento->select_row(r);
         p->alterarmovimento();
-        frmeditarbancario* w = frmeditarbancario::loaded();
+        frmeditarbancario* w = frmeditarbancario::aberto();
         EXPECT_NE(w, nullptr);
         return w;
     }
@@ -109,7 +109,7 @@ TEST_F(movement_windows, adding_opens_with_today_the_last_account_and_no_target)
     EXPECT_EQ(edit(w, "txtinfo")->toolTip(), QStringLiteral("Informações adicionais sobre a transação"));
     // adding again while it is open brings the same window
     frmprincipal::instance()->adicionarmovimento();
-    EXPECT_EQ(frmmovimentobanc::loaded(), w);
+    EXPECT_EQ(frmmovimentobanc::aberto(), w);
 }
 
 TEST_F(movement_windows, adding_each_kind_writes_its_row_and_reloads_the_movement_tab) {
@@ -148,7 +148,7 @@ TEST_F(movement_windows, adding_each_kind_writes_its_row_and_reloads_the_movemen
 
         esperado << QString::fromUtf8(c.row);
         EXPECT_EQ(rows(bancario_colunas), esperado) << c.movimento;
-        EXPECT_EQ(frmmovimentobanc::loaded(), nullptr) << "unloaded after storing";
+        EXPECT_EQ(frmmovimentobanc::aberto(), nullptr) << "unloaded after storing";
         QCoreApplication::processEvents();
     }
     EXPECT_TRUE(prompts_.boxes().empty()) << "no success message";
@@ -252,7 +252,7 @@ TEST_F(movement_windows, editing_a_transfer_into_a_withdrawal_clears_the_target)
     // the "R$ " the window showed is read on writing
     button(w, "cmdeditar")->click();
     EXPECT_TRUE(prompts_.boxes().empty());
-    EXPECT_EQ(frmeditarbancario::loaded(), nullptr);
+    EXPECT_EQ(frmeditarbancario::aberto(), nullptr);
     EXPECT_EQ(
         rows("SELECT \"código\", estatus, origem, destino, data, movimento, informacoes, Valor FROM bancario "
              "ORDER BY \"código\""),
@@ -265,7 +265,7 @@ TEST_F(movement_windows, editing_shows_the_target_only_for_a_transfer_and_an_emp
     frmprincipal* p = frmprincipal::instance();
     p->carregarbancario();
     p->alterarmovimento();
-    EXPECT_EQ(frmeditarbancario::loaded(), nullptr);
+    EXPECT_EQ(frmeditarbancario::aberto(), nullptr);
 
     exec("INSERT INTO bancario (estatus, origem, destino, data, movimento, informacoes, Valor) VALUES "
          "('Concluído', 'Itaú', ' - ', '16/11/2026', 'Depósito', ' ', '10,00')");
@@ -316,8 +316,8 @@ TEST_F(movement_windows, a_failed_write_keeps_the_window_open_with_every_field_a
         EXPECT_EQ(edit(c.window, "txtinfo")->text(), QStringLiteral(" anotado "));
         EXPECT_EQ(box(c.window, "cboestatus")->currentText(), QStringLiteral("Concluído"));
     }
-    EXPECT_NE(frmmovimentobanc::loaded(), nullptr);
-    EXPECT_NE(frmeditarbancario::loaded(), nullptr);
+    EXPECT_NE(frmmovimentobanc::aberto(), nullptr);
+    EXPECT_NE(frmeditarbancario::aberto(), nullptr);
 }
 
 TEST_F(movement_windows, a_movement_removed_meanwhile_or_a_date_that_is_no_date_fails_with_the_error) {
@@ -356,7 +356,7 @@ TEST_F(movement_windows, with_the_main_page_data_off_the_list_is_not_reloaded) {
     type_in(w->txtvalor, "3");
     w->cmdadicionar->click();
     EXPECT_EQ(rows(bancario_colunas).size(), 1);
-    EXPECT_EQ(frmmovimentobanc::loaded(), nullptr);
+    EXPECT_EQ(frmmovimentobanc::aberto(), nullptr);
     frmprincipal* p = frmprincipal::instance();
     EXPECT_EQ(p->xtab->currentIndex(), 0);
     EXPECT_EQ(p->lstmovimento->row_count(), 0);
@@ -370,16 +370,16 @@ TEST_F(movement_windows, alt_keys_store_and_cancel_and_other_letters_do_nothing)
     ASSERT_NE(a, nullptr);
     type_in(a->txtvalor, "4");
     keys::alt(a->txtvalor, 'e');
-    EXPECT_EQ(frmmovimentobanc::loaded(), a);
+    EXPECT_EQ(frmmovimentobanc::aberto(), a);
     keys::alt(a->txtinfo, 'a');
-    EXPECT_EQ(frmmovimentobanc::loaded(), nullptr);
+    EXPECT_EQ(frmmovimentobanc::aberto(), nullptr);
     EXPECT_EQ(rows(bancario_colunas).size(), 2);
     QCoreApplication::processEvents();
     a = abrir_adicionar();
     ASSERT_NE(a, nullptr);
     type_in(a->txtvalor, "4");
     keys::alt(a->cbomovimento, 'c');
-    EXPECT_EQ(frmmovimentobanc::loaded(), nullptr);
+    EXPECT_EQ(frmmovimentobanc::aberto(), nullptr);
     EXPECT_EQ(rows(bancario_colunas).size(), 2);
 
     // frmeditarbancario: E edits with cmdeditar, C cancels; A is not its letter
@@ -387,16 +387,16 @@ TEST_F(movement_windows, alt_keys_store_and_cancel_and_other_letters_do_nothing)
     ASSERT_NE(e, nullptr);
     type_in(e->txtvalor, "77");
     keys::alt(e->txtvalor, 'a');
-    EXPECT_EQ(frmeditarbancario::loaded(), e);
+    EXPECT_EQ(frmeditarbancario::aberto(), e);
     keys::alt(e, 'e');
-    EXPECT_EQ(frmeditarbancario::loaded(), nullptr);
+    EXPECT_EQ(frmeditarbancario::aberto(), nullptr);
     EXPECT_EQ(rows("SELECT Valor FROM bancario WHERE \"código\" = 1"), QStringList{"77,00"});
     QCoreApplication::processEvents();
     e = abrir_editar("1");
     ASSERT_NE(e, nullptr);
     type_in(e->txtvalor, "1");
     keys::alt(e->cboestatus, 'c');
-    EXPECT_EQ(frmeditarbancario::loaded(), nullptr);
+    EXPECT_EQ(frmeditarbancario::aberto(), nullptr);
     EXPECT_EQ(rows("SELECT Valor FROM bancario WHERE \"código\" = 1"), QStringList{"77,00"});
 }
 

@@ -102,8 +102,7 @@ TEST_F(instalments, the_schedules_give_these_due_dates) {
     };
     for (const auto& c : casos) {
         exec(u"DELETE FROM pagar"_s);
-        entries::write_series(entries::kind::despesa, campos(),
-                              plano(c.agenda, c.inicial, c.n, c.d, c.inicio));
+        entries::write_series(shell::ledger::pagar, campos(), plano(c.agenda, c.inicial, c.n, c.d, c.inicio));
         EXPECT_EQ(vencimentos(), c.esperado) << c.caso;
     }
 }
@@ -116,7 +115,7 @@ TEST_F(instalments, every_column_of_an_income_row) {
     f.documento.clear();
     f.estatus = u"Concluído"_s;
     f.moeda = u"€"_s;
-    entries::write_series(entries::kind::receita, f,
+    entries::write_series(shell::ledger::receber, f,
                           plano(schedule::dia_fixo, false, 2, 30, QDate(2026, 11, 23)));
     // the amount unformatted, the account left empty, blank notes still numbered
     EXPECT_EQ(
@@ -156,7 +155,7 @@ TEST_F(instalments, counts_are_read_by_their_leading_number_and_refused_below_on
 
 TEST_F(instalments, a_long_series_reports_each_instalment_and_is_written_whole) {
     std::vector<double> vistos;
-    entries::write_series(entries::kind::despesa, campos(),
+    entries::write_series(shell::ledger::pagar, campos(),
                           plano(schedule::dia_fixo, false, 600, 30, QDate(2026, 11, 23)),
                           [&](double i) { vistos.push_back(i); });
     ASSERT_EQ(vistos.size(), 600u);
@@ -168,8 +167,8 @@ TEST_F(instalments, a_long_series_reports_each_instalment_and_is_written_whole) 
 }
 
 TEST_F(instalments, rows_written_before_a_failure_stay) {
-    for (const auto k : {entries::kind::despesa, entries::kind::receita}) {
-        const QString tabela = entries::table_of(k);
+    for (const auto k : {shell::ledger::pagar, shell::ledger::receber}) {
+        const QString tabela = shell::traits(k).tabela;
         exec(u"CREATE TRIGGER recusa BEFORE INSERT ON %1 WHEN (SELECT count(*) FROM %1) >= 2 "
              u"BEGIN SELECT RAISE(ABORT, 'disco cheio'); END"_s.arg(tabela));
         EXPECT_THROW(
@@ -183,12 +182,12 @@ TEST_F(instalments, rows_written_before_a_failure_stay) {
 }
 
 TEST_F(instalments, a_date_past_the_year_9999_is_an_error_after_the_rows_before_it) {
-    EXPECT_THROW(entries::write_series(entries::kind::despesa, campos(),
+    EXPECT_THROW(entries::write_series(shell::ledger::pagar, campos(),
                                        plano(schedule::dia_fixo, true, 3, 30, QDate(9999, 11, 30))),
                  vb::overflow_error);
     EXPECT_EQ(vencimentos(),
               (QStringList{u"9999/11/30|Loja  - Parcela 1 de 3"_s, u"9999/12/30|Loja  - Parcela 2 de 3"_s}));
-    EXPECT_THROW(entries::write_series(entries::kind::despesa, campos(),
+    EXPECT_THROW(entries::write_series(shell::ledger::pagar, campos(),
                                        plano(schedule::periodo, false, 1, 1e300, QDate(2026, 1, 1))),
                  vb::overflow_error);
 }

@@ -37,7 +37,7 @@ protected:
         prompts_.clear();
     }
     void TearDown() override {
-        if (frmeditarbancario* e = frmeditarbancario::loaded()) e->close();
+        if (frmeditarbancario* e = frmeditarbancario::aberto()) e->close();
         if (frmprincipal::exists()) delete frmprincipal::instance();
         frmlogin::descarregar();
         QCoreApplication::processEvents();
@@ -435,7 +435,7 @@ TEST_F(actions, a_double_click_on_a_movement_edits_it) {
     p->carregarbancario();
     p->lstmovimento->select_row(0);
     Q_EMIT p->lstmovimento->row_double_clicked(0);
-    frmeditarbancario* e = frmeditarbancario::loaded();
+    frmeditarbancario* e = frmeditarbancario::aberto();
     ASSERT_TRUE(e);
     EXPECT_TRUE(e->isVisible());
     EXPECT_EQ(p->codigoselecionado, 1.0);

@@ -106,40 +106,4 @@ TEST_F(list_actions, settling_a_row_that_is_gone_still_asks_and_writes_nothing) 
     EXPECT_TRUE(rows("SELECT * FROM receber").isEmpty());
 }
 
-TEST_F(list_actions, the_receipt_takes_the_row_and_keeps_the_twins_formats) {
-    exec("INSERT INTO pagar (estatus, fornecedor, descricao, Valor, moeda) VALUES ('Pendente', 'Papelaria', "
-         "'Material', '1234,5', '$')");
-    exec("INSERT INTO receber (estatus, cliente, descricao, Valor, moeda) VALUES ('Pendente', 'Ana', "
-         "'Consultoria', '1.234,50', '€')");
-
-    const shell::receipt p = shell::read_receipt(ledger::pagar, 1, platform::today());
-    EXPECT_EQ(p.caption, "Recibo de contas a pagar");
-    EXPECT_EQ(p.pagamento, QString("Papelaria"));
-    EXPECT_EQ(p.recibo, QString("Seu nome e ou empresa"));
-    EXPECT_EQ(p.referente, QString("Material"));
-    EXPECT_EQ(p.data, "23/11/2026");
-    EXPECT_EQ(p.valor, QString("1.234,50"));
-
-    const shell::receipt r = shell::read_receipt(ledger::receber, 1, platform::today());
-    EXPECT_EQ(r.caption, "Recibo de contas a receber");
-    EXPECT_EQ(r.pagamento, QString("Seu nome e ou empresa"));
-    EXPECT_EQ(r.recibo, QString("Ana"));
-    EXPECT_EQ(r.referente, QString("Consultoria"));
-    // the currency sign of the row plays no part
-    EXPECT_EQ(r.valor, QString("R$ 1.234,50"));
-
-    // a row that is gone leaves the fields of the row untouched
-    const shell::receipt gone = shell::read_receipt(ledger::pagar, 5, platform::today());
-    EXPECT_EQ(gone.recibo, QString("Seu nome e ou empresa"));
-    EXPECT_EQ(gone.data, "23/11/2026");
-    EXPECT_FALSE(gone.pagamento);
-    EXPECT_FALSE(gone.referente);
-    EXPECT_FALSE(gone.valor);
-}
-
-TEST_F(list_actions, a_receipt_amount_that_is_no_number_is_shown_as_stored) {
-    exec("INSERT INTO receber (estatus, cliente, descricao, Valor) VALUES ('Pendente', 'Ana', 'x', 'abc')");
-    EXPECT_EQ(shell::read_receipt(ledger::receber, 1, platform::today()).valor, QString("abc"));
-}
-
 } // namespace

@@ -24,8 +24,8 @@ const QString chave = u"Exibir dica do dia"_s;
 class startup_windows : public support::fixture {
 protected:
     void TearDown() override {
-        delete frmalerta::carregada();
-        delete frmdica::carregada();
+        delete frmalerta::aberto();
+        delete frmdica::aberto();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         support::fixture::TearDown();
     }
@@ -65,7 +65,7 @@ TEST_F(startup_windows, accounts_due_today_are_listed_with_the_ledger_columns) {
 
     frmalerta* w = frmalerta::VerificarVencimentos_ao_iniciar();
     ASSERT_NE(w, nullptr);
-    EXPECT_EQ(frmalerta::carregada(), w);
+    EXPECT_EQ(frmalerta::aberto(), w);
     EXPECT_TRUE(w->isVisible());
     EXPECT_TRUE(w->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     EXPECT_EQ(w->windowTitle(), u"Alerta sobre vencimento de contas"_s);
@@ -107,7 +107,7 @@ TEST_F(startup_windows, with_nothing_due_today_no_alert_window_appears) {
     add("receber", "cliente", u"Concluído"_s, u"23/11/2026"_s);
     add("pagar", "fornecedor", u"Pendente"_s, u"2026/11/20"_s);
     EXPECT_EQ(frmalerta::VerificarVencimentos_ao_iniciar(), nullptr);
-    EXPECT_EQ(frmalerta::carregada(), nullptr);
+    EXPECT_EQ(frmalerta::aberto(), nullptr);
     EXPECT_EQ(visible_windows("frmalerta"), 0);
     EXPECT_TRUE(prompts_.boxes().empty());
 }
@@ -119,7 +119,7 @@ TEST_F(startup_windows, a_loaded_alert_window_that_finds_nothing_any_more_unload
     exec(u"UPDATE pagar SET estatus='Concluído', vencimento='23/11/2026'"_s);
     EXPECT_FALSE(w->VerificarVencimentos());
     EXPECT_EQ(w->lstpagar->row_count(), 0);
-    EXPECT_EQ(frmalerta::carregada(), nullptr);
+    EXPECT_EQ(frmalerta::aberto(), nullptr);
     EXPECT_FALSE(w->isVisible());
 }
 
@@ -210,7 +210,7 @@ TEST_F(startup_windows, chkdicadia_writes_each_click_to_the_lower_case_section) 
     // the next start honours the click
     w->cmdok->click();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(frmdica::carregada(), nullptr);
+    EXPECT_EQ(frmdica::aberto(), nullptr);
     EXPECT_EQ(frmdica::mostrar(true), nullptr);
 }
 
@@ -228,7 +228,7 @@ TEST_F(startup_windows, shown_on_request_the_tip_opens_with_the_option_off_and_r
     EXPECT_FALSE(w->isVisible());
     EXPECT_EQ(dica(), u"0"_s);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(frmdica::carregada(), nullptr);
+    EXPECT_EQ(frmdica::aberto(), nullptr);
     EXPECT_EQ(dica(), u"0"_s);
 
     // the former value comes back even over a click made while the window was open
