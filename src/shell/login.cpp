@@ -1,6 +1,8 @@
 #include "shell/login.h"
 
+#include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
+#include "store/conexao.h"
 
 namespace shell {
 
@@ -13,6 +15,37 @@ bool tem_caractere_proibido(const QString& texto) {
 QString comando_login(const QString& nome, const QString& senha) {
     return QStringLiteral("SELECT * FROM login WHERE (nome like '") + sql::value(nome) +
            QStringLiteral("' AND senha LIKE '") + sql::value(senha) + QStringLiteral("')");
+}
+
+QString exigirlogin() {
+    sql::recordset rs;
+    rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset, sql::read_only);
+    return rs.text(store::coluna::exigirlogin);
+}
+
+bool ha_usuarios() {
+    sql::recordset rs;
+    rs.open(QStringLiteral("SELECT * FROM login"), store::conexao, sql::keyset, sql::read_only);
+    return !rs.eof();
+}
+
+bool usuario_existe(const QString& nome, const QString& senha) {
+    bool achou = false;
+    platform::ignore_errors([&] {
+        sql::recordset rs;
+        rs.open(comando_login(nome, senha), store::conexao, sql::keyset, sql::read_only);
+        achou = !rs.eof();
+    });
+    return achou;
+}
+
+resultado_login decidir_login(bool ha_usuarios, const QString& nome, const QString& senha,
+                              const std::function<bool()>& procurar) {
+    if (!ha_usuarios) return resultado_login::sem_usuarios;
+    if (nome.isEmpty() || senha.isEmpty()) return resultado_login::campos_vazios;
+    if (tem_caractere_proibido(nome) || tem_caractere_proibido(senha))
+        return resultado_login::caractere_proibido;
+    return procurar() ? resultado_login::aceito : resultado_login::recusado;
 }
 
 } // namespace shell

@@ -1,7 +1,10 @@
 #pragma once
-// The checks of the login windows, apart from the windows.
+// The login rule and the data it reads, apart from the windows: whether a login is asked at start
+// (login_inicia.exigirlogin), who may enter, and in which order the checks refuse.
 
 #include <QString>
+
+#include <functional>
 
 namespace shell {
 
@@ -13,5 +16,27 @@ bool tem_caractere_proibido(const QString& texto);
 
 // The statement that finds a user by name and password (LIKE: any case passes).
 QString comando_login(const QString& nome, const QString& senha);
+
+// login_inicia.exigirlogin on the open connection ("1": a login is asked at start). Throws
+// sql::error when it cannot be read, an empty table included.
+QString exigirlogin();
+
+// Whether the login table holds any user, on the open connection. Throws sql::error.
+bool ha_usuarios();
+// Whether a user of that name and password exists; false when the lookup fails.
+bool usuario_existe(const QString& nome, const QString& senha);
+
+// What a login window shows next (frmlogin and frmloginsoft).
+enum class resultado_login {
+    sem_usuarios, // nobody registered: anyone gets in, after the warning
+    campos_vazios,
+    caractere_proibido,
+    aceito,
+    recusado,
+};
+// The rule: no user registered lets anyone in; then blank fields, then forbidden characters refuse;
+// only then is procurar asked whether the user exists.
+resultado_login decidir_login(bool ha_usuarios, const QString& nome, const QString& senha,
+                              const std::function<bool()>& procurar);
 
 } // namespace shell

@@ -1,5 +1,8 @@
 #include "shell/popup_menus.h"
 
+#include "shell/list_actions.h"
+#include "store/config.h"
+
 #include <algorithm>
 
 namespace shell {
@@ -211,10 +214,78 @@ QString top_menu_of(const popup_entry& e) {
     }
 }
 
-const popup_entry* find_popup_entry(const QString& top_menu, const QString& name) {
-    for (const popup_entry& e : popup_entries())
-        if (e.name == name && e.kind != popup_kind::separator && top_menu_of(e) == top_menu) return &e;
-    return nullptr;
+QString popup_action(const popup_entry& e) {
+    switch (e.kind) {
+    case k::routine:
+    case k::menu_item:
+    case k::window:
+        return e.target;
+    case k::print_list:
+    case k::filter:
+    case k::order:
+    case k::order_clause:
+    case k::view:
+        return e.name;
+    case k::submenu:
+    case k::separator:
+    case k::none:
+        break;
+    }
+    return {};
+}
+
+namespace {
+// Order is read as it is written; the view key is written with a small b and read with a capital
+// one (settings keys ignore case, so both are the same setting).
+const QString chave_ordem = QStringLiteral("Ordem");
+const QString chave_visualizar_escrita = QStringLiteral("VisualizarDadosbancario");
+const QString chave_visualizar_lida = QStringLiteral("VisualizarDadosBancario");
+} // namespace
+
+popup_effect effect_of(const popup_entry& e, const QDate& hoje) {
+    popup_effect f;
+    switch (e.kind) {
+    case k::filter:
+        f.filtro = e.target;
+        f.recarregar = top_menu_of(e) == QLatin1String("poppagar") ? ledger::pagar : ledger::receber;
+        break;
+    case k::order:
+        f.chave = chave_ordem;
+        f.valor = e.target;
+        f.marca = true;
+        f.recarregar = ledger::bancario;
+        break;
+    case k::order_clause:
+        f.ordem_bancario = e.target;
+        f.recarregar = ledger::bancario;
+        break;
+    case k::view:
+        f.chave = chave_visualizar_escrita;
+        f.valor = e.target;
+        f.marca = true;
+        if (e.target == QLatin1String("2"))
+            f.aviso = view_notice_year(hoje);
+        else if (e.target == QLatin1String("1"))
+            f.aviso = view_notice_month(hoje);
+        break;
+    default:
+        break;
+    }
+    return f;
+}
+
+void apply_settings(const popup_effect& f) {
+    if (!f.chave.isEmpty()) store::save_setting(store::secao_config, f.chave, f.valor);
+    if (f.ordem_bancario) set_ordem_bancario(*f.ordem_bancario);
+}
+
+bool popup_checked(const popup_entry& e) {
+    if (e.kind == k::order)
+        return store::setting(store::secao_config, chave_ordem, QStringLiteral("ASC"))
+                   .compare(e.target, Qt::CaseInsensitive) == 0;
+    if (e.kind == k::view)
+        return store::setting(store::secao_config, chave_visualizar_lida, QStringLiteral("0")) == e.target;
+    return false;
 }
 
 } // namespace shell

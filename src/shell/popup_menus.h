@@ -4,8 +4,12 @@
 // the window builds the menus in one loop and runs an item by its kind. The receber menu is
 // made from the same rows as the pagar menu: the rows hold both twins' names and targets.
 
+#include "shell/ledger.h"
+
+#include <QDate>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace shell {
@@ -36,9 +40,33 @@ struct popup_entry {
 const std::vector<QString>& popup_menu_names();
 // Every entry of every menu, each menu's entries in display order.
 const std::vector<popup_entry>& popup_entries();
-// The entry of that name under the top menu (searching its submenus); nullptr if absent.
-const popup_entry* find_popup_entry(const QString& top_menu, const QString& name);
 // The top menu an entry or submenu belongs to.
 QString top_menu_of(const popup_entry& e);
+
+// The action an item runs in the main window's action table: a routine, main-menu item or window
+// by its target, a list print by the item's name, the items of the kinds below by their own name;
+// empty for the items that do nothing (and separators and submenus).
+QString popup_action(const popup_entry& e);
+
+// What an item of the kinds filter, order, order_clause and view does, in this order: the setting
+// written, the movement reports' order clause set, the item checked among those of its kind in
+// its submenu, the list's period box set (and the boxes saved), the list reloaded, the notice
+// shown (title view_notice_title).
+struct popup_effect {
+    QString chave; // the key written in Configurações; empty: none
+    QString valor;
+    std::optional<QString> ordem_bancario;
+    bool marca = false;
+    std::optional<QString> filtro;
+    std::optional<ledger> recarregar;
+    QString aviso;
+};
+popup_effect effect_of(const popup_entry& e, const QDate& hoje);
+// Writes the setting and the order clause of an effect.
+void apply_settings(const popup_effect& f);
+
+// Whether a checkable item (order, view) is checked: the marks follow the settings they write,
+// which the settings window writes too.
+bool popup_checked(const popup_entry& e);
 
 } // namespace shell

@@ -16,21 +16,7 @@ QString pergunta_remover_usuario(const QString& nome) {
 }
 
 resultado_login conferir_login(const QString& nome, const QString& senha) {
-    {
-        sql::recordset rs;
-        rs.open(comando_usuarios(), conexao, sql::keyset, sql::read_only);
-        if (rs.eof()) return resultado_login::sem_usuarios;
-    }
-    if (nome.isEmpty() || senha.isEmpty()) return resultado_login::campos_vazios;
-    if (tem_caractere_proibido(nome) || tem_caractere_proibido(senha))
-        return resultado_login::caractere_proibido;
-    try {
-        sql::recordset rs;
-        rs.open(comando_login(nome, senha), conexao, sql::keyset, sql::read_only);
-        return rs.eof() ? resultado_login::recusado : resultado_login::aceito;
-    } catch (const sql::error&) {
-        return resultado_login::recusado;
-    }
+    return decidir_login(ha_usuarios(), nome, senha, [&] { return usuario_existe(nome, senha); });
 }
 
 QString comando_usuarios() {
@@ -115,10 +101,7 @@ resultado_cadastro usuario_aberto::atualizar(const QString& nome, const QString&
 QString ler_exigirlogin() {
     store::conectarbanco();
     try {
-        sql::recordset rs;
-        rs.open(QStringLiteral("SELECT * FROM login_inicia"), conexao, sql::keyset, sql::read_only);
-        if (rs.eof()) return {};
-        return rs.text(coluna::exigirlogin);
+        return exigirlogin();
     } catch (const sql::error&) {
         return {};
     }

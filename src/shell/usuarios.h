@@ -3,6 +3,7 @@
 // upkeep of the table login with its statements and messages.
 
 #include "platform/sql/recordset.h"
+#include "shell/login.h"
 
 #include <QString>
 #include <QStringList>
@@ -29,15 +30,8 @@ inline const QString texto_ultimo_usuario =
 // The question before a removal; "produtos" is how it has always read.
 QString pergunta_remover_usuario(const QString& nome);
 
-// The login steps on the current connection, after the topmost switch: what the window shows next.
-enum class resultado_login {
-    sem_usuarios, // nobody registered: anyone gets in, after the warning
-    campos_vazios,
-    caractere_proibido,
-    aceito,
-    recusado,
-};
-// Throws sql::error when the table of users cannot be read at all.
+// The login steps on the current connection, after the topmost switch: decidir_login on the table
+// of users. Throws sql::error when the table of users cannot be read at all.
 resultado_login conferir_login(const QString& nome, const QString& senha);
 
 // The statements of the user manager.

@@ -2,8 +2,8 @@
 
 #include "platform/prompts.h"
 #include "platform/widgets/field_helpers.h"
-#include "shell/login.h"
 #include "shell/ui/frmprincipal.h"
+#include "shell/usuarios.h"
 #include "store/conexao.h"
 
 #include <QApplication>
@@ -93,11 +93,7 @@ void frmlogin::abrir() {
     QString exigir;
     bool lido = false;
     try {
-        sql::recordset rs;
-        rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset, sql::read_only);
-        rs.move_last();
-        rs.move_first();
-        exigir = rs.text(QStringLiteral("exigirlogin"));
+        exigir = shell::exigirlogin();
         lido = true;
     } catch (const sql::error&) {
         // an unreadable data file has been reported by the connection; the main window opens with empty lists
@@ -123,51 +119,37 @@ void frmlogin::entrar_no_principal() {
 
 void frmlogin::cmdentrar_click() {
     sempretopo(QStringLiteral("desativo"), this);
+    using shell::resultado_login;
+    resultado_login r;
     try {
-        sql::recordset rs;
-        rs.open(QStringLiteral("SELECT * FROM login"), store::conexao, sql::keyset, sql::read_only);
-        if (rs.eof()) {
-            platform::msgbox(
-                QStringLiteral("Não há nenhum usuário cadastrado, o software será iniciado para adicionar "
-                               "um usuário clique no menu principal, gerenciador de login e depois em "
-                               "configurar usuários."),
-                platform::exclamation, QStringLiteral("Login"));
-            entrar_no_principal();
-            return;
-        }
+        r = shell::conferir_login(txtusuario->text(), txtsenha->text());
     } catch (const sql::error& e) {
-        platform::msgbox(e.description(), platform::critical, QStringLiteral("Login"));
+        platform::msgbox(e.description(), platform::critical, shell::titulo_login);
         sempretopo(QStringLiteral("ativo"), this);
         return;
     }
-    const QString nome = txtusuario->text();
-    const QString senha = txtsenha->text();
-    if (nome.isEmpty() || senha.isEmpty()) {
-        platform::msgbox(QStringLiteral("Digite o nome de usuário e ou a senha!"), platform::exclamation,
-                         QStringLiteral("Login"));
+    switch (r) {
+    case resultado_login::sem_usuarios:
+        platform::msgbox(shell::texto_sem_usuarios, platform::exclamation, shell::titulo_login);
+        entrar_no_principal();
+        return;
+    case resultado_login::campos_vazios:
+        platform::msgbox(shell::texto_campos_login, platform::exclamation, shell::titulo_login);
         sempretopo(QStringLiteral("ativo"), this);
         return;
-    }
-    const QString invalido =
-        QStringLiteral("Usuário e ou senha inválido, por favor verifique os dados digitados!");
-    if (shell::tem_caractere_proibido(nome) || shell::tem_caractere_proibido(senha)) {
-        platform::msgbox(invalido, platform::critical, QStringLiteral("Login"));
+    case resultado_login::caractere_proibido:
+        // this refusal leaves the window where it is
+        platform::msgbox(shell::texto_login_invalido, platform::critical, shell::titulo_login);
         return;
-    }
-    bool achou = false;
-    try {
-        sql::recordset rs;
-        rs.open(shell::comando_login(nome, senha), store::conexao, sql::keyset, sql::read_only);
-        achou = !rs.eof();
-    } catch (const sql::error&) {
-    }
-    if (achou) {
+    case resultado_login::aceito:
         entrar_no_principal();
         store::fecharconexao();
         return;
+    case resultado_login::recusado:
+        platform::msgbox(shell::texto_login_invalido, platform::critical, shell::titulo_login);
+        sempretopo(QStringLiteral("ativo"), this);
+        return;
     }
-    platform::msgbox(invalido, platform::critical, QStringLiteral("Login"));
-    sempretopo(QStringLiteral("ativo"), this);
 }
 
 void frmlogin::cmdcancelar_click() {

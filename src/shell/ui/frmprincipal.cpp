@@ -8,6 +8,7 @@
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/list_view.h"
 #include "shell/filter_state.h"
+#include "shell/login.h"
 #include "shell/ui/frmalerta.h"
 #include "shell/ui/frmdica.h"
 #include "shell/ui/frmlogin.h"
@@ -112,13 +113,13 @@ frmprincipal::frmprincipal() {
     picprincipal = named(new QWidget, "picprincipal");
     l->addWidget(picprincipal);
     montar_tabs();
+    montar_acoes();
     montar_menus();
     montar_toolbar();
     statusBar()->setObjectName(QStringLiteral("statusbar"));
     statustexto = named(new QLabel, "statustexto");
     statusBar()->addWidget(statustexto, 1);
     ligar_filtros();
-    ligar_botoes();
     ligar_acoes();
     // activation: the window gets the focus back from another of the program's windows
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* w) {
@@ -292,15 +293,8 @@ void frmprincipal::abrir() {
                                            QStringLiteral("1")) != QLatin1String("0");
         item(QStringLiteral("mnuexibirprincipal"))->setChecked(exibir);
         picprincipal->setVisible(exibir);
-        {
-            sql::recordset rs;
-            rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset,
-                    sql::read_only);
-            rs.move_last();
-            rs.move_first();
-            if (rs.text(QStringLiteral("exigirlogin")) == QLatin1String("1"))
-                item(QStringLiteral("mnulogininiciar"))->setChecked(true);
-        }
+        if (shell::exigirlogin() == QLatin1String("1"))
+            item(QStringLiteral("mnulogininiciar"))->setChecked(true);
         if (store::exibir_principal()) {
             carregarpagar();
             dadospagar();
@@ -337,34 +331,12 @@ void frmprincipal::ativar() {
     // each step runs with errors ignored
     store::conectarbanco();
     platform::ignore_errors([this] { SalvarColuna(); });
-    QString exigir;
-    if (ler_exigirlogin(exigir))
-        item(QStringLiteral("mnulogininiciar"))->setChecked(exigir == QLatin1String("1"));
+    try {
+        item(QStringLiteral("mnulogininiciar"))->setChecked(shell::exigirlogin() == QLatin1String("1"));
+    } catch (const sql::error&) {
+        // an unreadable setting leaves the mark as it is
+    }
     platform::ignore_errors([this] { CarregarConfigSoft(); });
-}
-
-bool frmprincipal::ler_exigirlogin(QString& valor) {
-    try {
-        sql::recordset rs;
-        rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset, sql::read_only);
-        if (rs.eof()) return false;
-        valor = rs.text(QStringLiteral("exigirlogin"));
-        return true;
-    } catch (const sql::error&) {
-        return false;
-    }
-}
-
-void frmprincipal::gravar_exigirlogin(bool exigir) {
-    store::conectarbanco();
-    try {
-        sql::recordset rs;
-        rs.open(QStringLiteral("SELECT * FROM login_inicia"), store::conexao, sql::keyset, sql::pessimistic);
-        if (rs.eof()) return;
-        rs.set(QStringLiteral("exigirlogin"), exigir ? QStringLiteral("1") : QStringLiteral("0"));
-        rs.update();
-    } catch (const sql::error&) {
-    }
 }
 
 void frmprincipal::CarregarConfigSoft() {

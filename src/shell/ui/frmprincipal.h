@@ -2,6 +2,7 @@
 // The main window: four tabs of lists, the menu tree, the toolbar and the status bar. It owns no
 // business rule; its routines gather what the controls show, call the logic and write back.
 
+#include "shell/action_table.h"
 #include "shell/principal_api.h"
 
 #include <QHash>
@@ -10,6 +11,7 @@
 
 #include <array>
 
+class QAbstractButton;
 class QAction;
 class QComboBox;
 class QLabel;
@@ -26,6 +28,7 @@ class list_view;
 namespace shell {
 struct entry_filters;
 struct movement_filters;
+struct popup_entry;
 } // namespace shell
 
 class frmprincipal : public QMainWindow, public shell::principal_api {
@@ -89,9 +92,8 @@ public:
     void removerbanco();
     void popbaixapagar();
     void popbaixareceber();
-    void ligar_acoes();
 
-    // Menu items and toolbar, by name.
+    // Menu items and toolbar, by name: the item's action runs when it is enabled.
     QAction* item(const QString& name) const { return items_.value(name); }
     void executar_item(const QString& name);
     void executar_botao(const QString& key);
@@ -190,7 +192,18 @@ private:
     void montar_menus();
     void montar_toolbar();
     void ligar_filtros();
-    void ligar_botoes();
+
+    // The actions and their controls (frmprincipal_acoes.cpp)
+    void montar_acoes();
+    // The control shows its action's enabled state and runs it.
+    void ligar(QAction* a, const QString& nome);
+    void ligar(QAbstractButton* b, const QString& nome);
+    void ligar_acoes();
+    void montar_popups();
+    // Enabled states and check marks of the pop-up items, as the actions and settings stand now.
+    void atualizar_popups();
+    void mostrar_popup(list_view* l, const QString& nome, const QPoint& pos);
+    void aplicar_popup(const shell::popup_entry& e);
 
     // The ledger lists, by which one
     list_view* lista(shell::ledger which) const;
@@ -207,17 +220,15 @@ private:
     void abrir();
     void ativar();
     void VerificarDica();
-    bool ler_exigirlogin(QString& valor);
-    void gravar_exigirlogin(bool exigir);
     void tab_mudou(int index);
 
     // Menu routines of this window
-    void alternar_item(const QString& name);
     void mnuexibirprincipal_click();
     void mnuiniciar_click();
     void mnulogininiciar_click();
     void desligar();
 
+    shell::action_table acoes_;
     QHash<QString, QAction*> items_;
     QHash<QString, QToolButton*> toolbar_buttons_;
     bool carregado_ = false;

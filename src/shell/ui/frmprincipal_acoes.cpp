@@ -1,26 +1,27 @@
-// The actions on a row of the four lists: removal and settling, and the wiring that leads the
-// buttons, double clicks, menu items and pop-up menus to the routines. A control whose routine or
-// window is not part of the program yet stays disabled.
+// The main window's actions: one table (shell::action_table) says what each menu item, toolbar
+// button, pop-up item and button runs and whether it is enabled; the controls are bound to their
+// action once. Also the actions on a row of the four lists: removal and settling.
 #include "platform/clock.h"
 #include "platform/errors.h"
 #include "platform/prompts.h"
+#include "platform/shell.h"
 #include "platform/text/vb_text.h"
 #include "platform/widgets/frmcarregando.h"
 #include "platform/widgets/list_view.h"
 #include "shell/list_actions.h"
+#include "shell/main_menu.h"
 #include "shell/popup_menus.h"
-#include "shell/principal_api.h"
+#include "shell/ui/frmdica.h"
 #include "shell/ui/frmprincipal.h"
 #include "shell/ui/ledger_list.h"
 #include "store/conexao.h"
 #include "store/config.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
 #include <QMenu>
 #include <QPushButton>
-
-#include <exception>
 
 using shell::ledger;
 using shell::popup_entry;
@@ -28,13 +29,11 @@ using shell::popup_kind;
 
 namespace {
 
-using rotina = void (frmprincipal::*)();
-
-// The routines this program has, by name. The receipt comes with its window (frmrecibo): until
-// then its controls stay disabled.
+// The routines of this window that menus, pop-ups and buttons run by name. The receipt is not
+// among them: its window registers it when it exists.
 const struct {
     const char* nome;
-    rotina r;
+    void (frmprincipal::*rotina)();
 } rotinas[] = {
     {"adicionarpagar", &frmprincipal::adicionarpagar},
     {"adicionarreceber", &frmprincipal::adicionarreceber},
@@ -52,31 +51,27 @@ const struct {
     {"popbaixareceber", &frmprincipal::popbaixareceber},
     {"multiplospagar", &frmprincipal::multiplospagar},
     {"multiplosreceber", &frmprincipal::multiplosreceber},
+    // the add items of the main menu
+    {"mnucaddespesas", &frmprincipal::adicionarpagar},
+    {"mnucadrececeber", &frmprincipal::adicionarreceber},
+    {"mnucadbancario", &frmprincipal::adicionarmovimento},
+    {"mnucadbancos", &frmprincipal::adicionarbanco},
 };
 
-rotina rotina_de(const QString& nome) {
-    for (const auto& r : rotinas)
-        if (nome == QLatin1String(r.nome)) return r.r;
-    return nullptr;
-}
-
-// A routine of this window, or one that another subsystem registered (the receipt's).
-bool existe(const QString& nome) {
-    return rotina_de(nome) != nullptr || shell::find_action(nome) != nullptr;
-}
-
-void executar(frmprincipal* p, const QString& nome) {
-    if (const rotina r = rotina_de(nome))
-        platform::ignore_errors([&] { (p->*r)(); });
-    else
-        shell::run_action(nome);
-}
+// Items that flip a check mark and a "1"/"0" setting.
+const struct {
+    const char* item;
+    const QString* secao;
+    const char* chave;
+} alternancias[] = {
+    {"mnualertavenc", &store::secao_config, "AlertasVencimento"},
+    {"mnuatualizarsaldo", &store::secao_config, "AtualizarSaldo"},
+    {"mnudicadia", &store::secao_configuracoes, "Exibir dica do dia"},
+};
 
 bool perguntar(const QString& texto, const QString& titulo) {
     return platform::msgbox(texto, platform::yes_no | platform::question, titulo) == platform::answer_yes;
 }
-
-// --- pop-up menus --------------------------------------------------------------------------
 
 QMenu* menu_de(const frmprincipal* p, const QString& name) {
     return p->findChild<QMenu*>(name);
@@ -87,176 +82,59 @@ QAction* acao_de(const frmprincipal* p, const popup_entry& e) {
     return m ? m->findChild<QAction*>(e.name, Qt::FindDirectChildrenOnly) : nullptr;
 }
 
-// Marks the item among the entries of its kind in its submenu.
-void marcar(const frmprincipal* p, const popup_entry& escolhido) {
-    for (const popup_entry& e : shell::popup_entries())
-        if (e.menu == escolhido.menu && e.kind == escolhido.kind)
-            if (QAction* a = acao_de(p, e)) a->setChecked(e.name == escolhido.name);
-}
-
-bool habilitado(const frmprincipal* p, const popup_entry& e) {
-    switch (e.kind) {
-    case popup_kind::routine:
-        return existe(e.target);
-    case popup_kind::menu_item: {
-        const QAction* a = p->item(e.target);
-        return a && a->isEnabled();
-    }
-    case popup_kind::filter:
-    case popup_kind::order:
-    case popup_kind::order_clause:
-    case popup_kind::view:
-        return true;
-    case popup_kind::window:
-        return shell::find_action(e.target) != nullptr;
-    case popup_kind::print_list:
-        return shell::find_action(e.name) != nullptr;
-    default:
-        // windows and printing of later parts of the program, and the items with no action
-        return false;
-    }
-}
-
-void executar_popup(frmprincipal* p, const popup_entry& e) {
-    const QString top = shell::top_menu_of(e);
-    switch (e.kind) {
-    case popup_kind::routine:
-        executar(p, e.target);
-        break;
-    case popup_kind::menu_item:
-        platform::ignore_errors([&] { p->executar_item(e.target); });
-        break;
-    case popup_kind::window:
-        shell::run_action(e.target);
-        break;
-    case popup_kind::print_list:
-        shell::run_action(e.name);
-        break;
-    case popup_kind::filter:
-        platform::ignore_errors([&] {
-            if (top == QLatin1String("poppagar")) {
-                p->cbofiltrop->setCurrentText(e.target);
-                p->salvartudopagar();
-                p->carregarpagar();
-            } else {
-                p->cbofiltror->setCurrentText(e.target);
-                p->salvartudoreceber();
-                p->carregarreceber();
-            }
-        });
-        break;
-    case popup_kind::order:
-        store::save_setting(store::secao_config, QStringLiteral("Ordem"), e.target);
-        marcar(p, e);
-        platform::ignore_errors([&] { p->carregarbancario(); });
-        break;
-    case popup_kind::order_clause:
-        shell::set_ordem_bancario(e.target);
-        platform::ignore_errors([&] { p->carregarbancario(); });
-        break;
-    case popup_kind::view:
-        // the key is written with a small b; readers spell it with a capital one
-        store::save_setting(store::secao_config, QStringLiteral("VisualizarDadosbancario"), e.target);
-        marcar(p, e);
-        if (e.target == QLatin1String("2"))
-            platform::msgbox(shell::view_notice_year(platform::today()), platform::information,
-                             shell::view_notice_title);
-        else if (e.target == QLatin1String("1"))
-            platform::msgbox(shell::view_notice_month(platform::today()), platform::information,
-                             shell::view_notice_title);
-        break;
-    default:
-        break;
-    }
-}
-
-// The check marks follow the settings they write.
-bool marcado(const popup_entry& e) {
-    if (e.kind == popup_kind::order)
-        return store::setting(store::secao_config, QStringLiteral("Ordem"), QStringLiteral("ASC"))
-                   .compare(e.target, Qt::CaseInsensitive) == 0;
-    if (e.kind == popup_kind::view)
-        return store::setting(store::secao_config, QStringLiteral("VisualizarDadosBancario"),
-                              QStringLiteral("0")) == e.target;
-    return false;
-}
-
-// Enabled states and check marks as the program and the settings stand now (the settings window
-// writes Ordem too).
-void atualizar_habilitados(frmprincipal* p) {
-    const auto& all = shell::popup_entries();
-    for (const popup_entry& e : all) {
-        if (e.kind == popup_kind::submenu || e.kind == popup_kind::separator) continue;
-        QAction* a = acao_de(p, e);
-        if (!a) continue;
-        a->setEnabled(habilitado(p, e));
-        if (a->isCheckable()) a->setChecked(marcado(e));
-    }
-    // a submenu is open while one of its items works (children come after their submenu)
-    for (auto it = all.rbegin(); it != all.rend(); ++it) {
-        if (it->kind != popup_kind::submenu) continue;
-        QMenu* m = menu_de(p, it->name);
-        if (!m) continue;
-        bool algum = false;
-        for (QAction* a : m->actions())
-            algum = algum || (a->isEnabled() && !a->isSeparator());
-        m->menuAction()->setEnabled(algum);
-    }
-}
-
-void montar_popups(frmprincipal* p) {
-    // the hidden window that holds the pop-up menus
-    auto* frmmenuspop = new QWidget(p);
-    frmmenuspop->setObjectName(QStringLiteral("frmmenuspop"));
-    frmmenuspop->hide();
-    for (const QString& nome : shell::popup_menu_names()) {
-        auto* m = new QMenu(frmmenuspop);
-        m->setObjectName(nome);
-    }
-    for (const popup_entry& e : shell::popup_entries()) {
-        QMenu* pai = menu_de(p, e.menu);
-        if (!pai) continue;
-        if (e.kind == popup_kind::separator) {
-            pai->addSeparator();
-            continue;
-        }
-        if (e.kind == popup_kind::submenu) {
-            QMenu* sub = pai->addMenu(e.caption);
-            sub->setObjectName(e.name);
-            continue;
-        }
-        auto* a = new QAction(e.caption, pai);
-        a->setObjectName(e.name);
-        if (e.kind == popup_kind::order || e.kind == popup_kind::view) {
-            a->setCheckable(true);
-        }
-        pai->addAction(a);
-        const popup_entry* entrada = &e; // the entries live as long as the program
-        QObject::connect(a, &QAction::triggered, p, [p, entrada]() { executar_popup(p, *entrada); });
-    }
-    atualizar_habilitados(p);
-}
-
-// The right click on a list: its menu at the pointer. The holder window connects at its first
-// opening, as the lists' own routines then find the connection open.
-void mostrar_popup(frmprincipal* p, list_view* l, const QString& nome, const QPoint& pos) {
-    QWidget* frmmenuspop = p->findChild<QWidget*>(QStringLiteral("frmmenuspop"));
-    QMenu* m = menu_de(p, nome);
-    if (!frmmenuspop || !m) return;
-    if (!frmmenuspop->property("carregado").toBool()) {
-        frmmenuspop->setProperty("carregado", true);
-        try {
-            store::conectarbanco();
-        } catch (const std::exception& e) {
-            platform::msgbox(QStringLiteral("Ocorreu o seguinte erro: ") + QString::fromUtf8(e.what()),
-                             platform::critical, QStringLiteral("erro"));
-        }
-    }
-    atualizar_habilitados(p);
-    m->popup(l->viewport()->mapToGlobal(pos));
-}
-
 } // namespace
+
+void frmprincipal::montar_acoes() {
+    for (const auto& r : rotinas)
+        acoes_.add(QString::fromLatin1(r.nome), [this, f = r.rotina] { (this->*f)(); });
+    for (const auto& t : alternancias) {
+        const QString item = QString::fromLatin1(t.item);
+        // a checkable action has flipped its mark before this runs: the mark is the new state
+        acoes_.add(item, [this, item, t] {
+            store::save_setting(*t.secao, QString::fromUtf8(t.chave),
+                                this->item(item)->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
+        });
+    }
+    acoes_.add(QStringLiteral("mnusair"), [this] { close(); });
+    acoes_.add(QStringLiteral("mnumostrardicadia"), [this] { frmdica::mostrar_por_pedido(this); });
+    acoes_.add(QStringLiteral("mnuexibirprincipal"), [this] { mnuexibirprincipal_click(); });
+    acoes_.add(QStringLiteral("mnuiniciar"), [this] { mnuiniciar_click(); });
+    acoes_.add(QStringLiteral("mnulogininiciar"), [this] { mnulogininiciar_click(); });
+    acoes_.add(QStringLiteral("mnunotepad"), [] {
+        if (!platform::desktop().start_editor())
+            platform::msgbox(QStringLiteral("Não foi encontrado um editor de textos neste computador."),
+                             platform::exclamation, QStringLiteral("Bloco de notas"));
+    });
+    acoes_.add(QStringLiteral("mnucalc"), [] {
+        if (!platform::desktop().start_calculator())
+            platform::msgbox(QStringLiteral("Não foi encontrada uma calculadora neste computador."),
+                             platform::exclamation, QStringLiteral("Calculadora"));
+    });
+    for (const auto& e : shell::main_menu())
+        if (const QString page = shell::maker_page(e.name); !page.isEmpty())
+            acoes_.add(e.name, [page] { platform::desktop().open(page); });
+    // the pop-up items that set the lists' views and orders act on this window
+    for (const popup_entry& e : shell::popup_entries())
+        if (e.kind == popup_kind::filter || e.kind == popup_kind::order ||
+            e.kind == popup_kind::order_clause || e.kind == popup_kind::view)
+            acoes_.add(e.name, [this, &e] { aplicar_popup(e); });
+}
+
+void frmprincipal::ligar(QAction* a, const QString& nome) {
+    a->setEnabled(acoes_.enabled(nome));
+    connect(a, &QAction::triggered, this, [this, nome] { acoes_.run(nome); });
+}
+
+void frmprincipal::ligar(QAbstractButton* b, const QString& nome) {
+    b->setEnabled(acoes_.enabled(nome));
+    connect(b, &QAbstractButton::clicked, this, [this, nome] { acoes_.run(nome); });
+}
+
+void frmprincipal::executar_item(const QString& name) {
+    acoes_.run(name);
+}
+
+// --- removal and settling -------------------------------------------------------------------
 
 void frmprincipal::remover(ledger which) {
     list_view* l = lista(which);
@@ -313,8 +191,99 @@ void frmprincipal::popbaixareceber() {
     dar_baixa(ledger::receber);
 }
 
+// --- pop-up menus ---------------------------------------------------------------------------
+
+void frmprincipal::aplicar_popup(const popup_entry& e) {
+    const shell::popup_effect f = shell::effect_of(e, platform::today());
+    shell::apply_settings(f);
+    if (f.marca)
+        for (const popup_entry& x : shell::popup_entries())
+            if (x.menu == e.menu && x.kind == e.kind)
+                if (QAction* a = acao_de(this, x)) a->setChecked(x.name == e.name);
+    if (f.filtro && f.recarregar) {
+        (this->*controles_de(*f.recarregar).filtro.member)->setCurrentText(*f.filtro);
+        salvar_filtros(*f.recarregar);
+    }
+    if (f.recarregar) platform::ignore_errors([&] { carregar(*f.recarregar); });
+    if (!f.aviso.isEmpty()) platform::msgbox(f.aviso, platform::information, shell::view_notice_title);
+}
+
+void frmprincipal::atualizar_popups() {
+    const auto& all = shell::popup_entries();
+    for (const popup_entry& e : all) {
+        if (e.kind == popup_kind::submenu || e.kind == popup_kind::separator) continue;
+        QAction* a = acao_de(this, e);
+        if (!a) continue;
+        const QString nome = shell::popup_action(e);
+        a->setEnabled(!nome.isEmpty() && acoes_.enabled(nome));
+        if (a->isCheckable()) a->setChecked(shell::popup_checked(e));
+    }
+    // a submenu is open while one of its items works (children come after their submenu)
+    for (auto it = all.rbegin(); it != all.rend(); ++it) {
+        if (it->kind != popup_kind::submenu) continue;
+        QMenu* m = menu_de(this, it->name);
+        if (!m) continue;
+        bool algum = false;
+        for (QAction* a : m->actions())
+            algum = algum || (a->isEnabled() && !a->isSeparator());
+        m->menuAction()->setEnabled(algum);
+    }
+}
+
+void frmprincipal::montar_popups() {
+    // the hidden window that holds the pop-up menus
+    auto* frmmenuspop = new QWidget(this);
+    frmmenuspop->setObjectName(QStringLiteral("frmmenuspop"));
+    frmmenuspop->hide();
+    for (const QString& nome : shell::popup_menu_names()) {
+        auto* m = new QMenu(frmmenuspop);
+        m->setObjectName(nome);
+    }
+    for (const popup_entry& e : shell::popup_entries()) {
+        QMenu* pai = menu_de(this, e.menu);
+        if (!pai) continue;
+        if (e.kind == popup_kind::separator) {
+            pai->addSeparator();
+            continue;
+        }
+        if (e.kind == popup_kind::submenu) {
+            QMenu* sub = pai->addMenu(e.caption);
+            sub->setObjectName(e.name);
+            continue;
+        }
+        auto* a = new QAction(e.caption, pai);
+        a->setObjectName(e.name);
+        a->setCheckable(e.kind == popup_kind::order || e.kind == popup_kind::view);
+        pai->addAction(a);
+        if (const QString nome = shell::popup_action(e); !nome.isEmpty()) ligar(a, nome);
+    }
+    atualizar_popups();
+}
+
+void frmprincipal::mostrar_popup(list_view* l, const QString& nome, const QPoint& pos) {
+    QWidget* frmmenuspop = findChild<QWidget*>(QStringLiteral("frmmenuspop"));
+    QMenu* m = menu_de(this, nome);
+    if (!frmmenuspop || !m) return;
+    // the holder window connects at its first opening, as the lists' own routines then find the
+    // connection open
+    if (!frmmenuspop->property("carregado").toBool()) {
+        frmmenuspop->setProperty("carregado", true);
+        try {
+            store::conectarbanco();
+        } catch (const std::exception& e) {
+            platform::msgbox(QStringLiteral("Ocorreu o seguinte erro: ") + platform::error_text(e),
+                             platform::critical, QStringLiteral("erro"));
+        }
+    }
+    atualizar_popups();
+    m->popup(l->viewport()->mapToGlobal(pos));
+}
+
+// --- the tabs' buttons and lists ------------------------------------------------------------
+
 void frmprincipal::ligar_acoes() {
-    // buttons: each to its routine, enabled when the routine exists
+    montar_popups();
+    // the tabs' buttons: each to its routine (a button of a window still to come stays disabled)
     const struct {
         QPushButton* botao;
         const char* rotina;
@@ -328,42 +297,26 @@ void frmprincipal::ligar_acoes() {
         {cmdremoverm, "removermovimento"},     {cmdadicionarb, "adicionarbanco"},
         {cmdalterarb, "alterarbanco"},         {cmdremoverb, "removerbanco"},
     };
-    for (const auto& b : botoes) {
-        const QString nome = QString::fromLatin1(b.rotina);
-        b.botao->setEnabled(existe(nome));
-        connect(b.botao, &QPushButton::clicked, this, [this, nome]() { executar(this, nome); });
-    }
-    // the add items of the main menu: routed by executar_item, enabled here
+    for (const auto& b : botoes)
+        ligar(b.botao, QString::fromLatin1(b.rotina));
+    // buttons that act as menu items
     const struct {
+        QPushButton* botao;
         const char* item;
-        const char* rotina;
-    } itens[] = {{"mnucaddespesas", "adicionarpagar"},
-                 {"mnucadrececeber", "adicionarreceber"},
-                 {"mnucadbancario", "adicionarmovimento"},
-                 {"mnucadbancos", "adicionarbanco"}};
-    for (const auto& i : itens) {
-        QAction* a = item(QString::fromLatin1(i.item));
-        const QString nome = QString::fromLatin1(i.rotina);
-        if (!a) continue;
-        a->setEnabled(existe(nome));
-    }
-    montar_popups(this);
+    } como_itens[] = {{cmdconfbanc, "mnuconfigsoft"},   {cmdhistoricocli, "mnufincli"},
+                      {cmdhistoricoforn, "mnufinforn"}, {cmdprojecaop, "mnumetadesp"},
+                      {cmdprojecoesr, "mnumetarec"},    {cmdmesp, "mnuvisvencpagar"},
+                      {cmdmesr, "mnuvisvencreceber"}};
+    for (const auto& b : como_itens)
+        ligar(b.botao, QString::fromLatin1(b.item));
     // double click edits, right click opens the list's menu
-    const struct {
-        list_view* lista;
-        const char* alterar;
-        const char* menu;
-    } listas[] = {{lstpagar, "alterarpagar", "poppagar"},
-                  {lstreceber, "alterarreceber", "popreceber"},
-                  {lstmovimento, "alterarmovimento", "popmovimento"},
-                  {lstcaixabanco, "alterarbanco", "popcaixa"}};
-    for (const auto& l : listas) {
-        const QString alterar = QString::fromLatin1(l.alterar);
-        const QString menu = QString::fromLatin1(l.menu);
-        list_view* lista = l.lista;
-        connect(lista, &list_view::row_double_clicked, this, [this, alterar]() { executar(this, alterar); });
+    const auto ligar_lista = [this](list_view* lista, const QString& alterar, const QString& menu) {
+        connect(lista, &list_view::row_double_clicked, this, [this, alterar] { acoes_.run(alterar); });
         lista->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(lista, &QWidget::customContextMenuRequested, this,
-                [this, lista, menu](const QPoint& pos) { mostrar_popup(this, lista, menu, pos); });
-    }
+                [this, lista, menu](const QPoint& pos) { mostrar_popup(lista, menu, pos); });
+    };
+    for (ledger which : shell::all_ledgers)
+        ligar_lista(lista(which), shell::traits(which).alterar, shell::traits(which).popup);
+    ligar_lista(lstcaixabanco, QStringLiteral("alterarbanco"), QStringLiteral("popcaixa"));
 }

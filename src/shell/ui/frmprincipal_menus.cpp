@@ -1,11 +1,9 @@
-// The main window's menus, toolbar and tab buttons: built from the menu data and routed by name.
-// An item whose window is not part of the program yet stays disabled.
+// The main window's menus and toolbar, built from the menu data and bound to the window's actions;
+// and the menu items that act on this window itself.
 #include "platform/autostart.h"
 #include "platform/prompts.h"
-#include "platform/shell.h"
+#include "shell/usuarios.h"
 #include "shell/main_menu.h"
-#include "shell/principal_api.h"
-#include "shell/ui/frmdica.h"
 #include "shell/ui/frmprincipal.h"
 #include "store/config.h"
 #include "store/program_dir.h"
@@ -15,27 +13,10 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
 
-#include <functional>
-
-namespace {
-
-// Items that flip a check mark and a "1"/"0" setting.
-struct toggle {
-    const char* item;
-    const QString* section;
-    const char* key;
-};
-const toggle toggles[] = {
-    {"mnualertavenc", &store::secao_config, "AlertasVencimento"},
-    {"mnuatualizarsaldo", &store::secao_config, "AtualizarSaldo"},
-    {"mnudicadia", &store::secao_configuracoes, "Exibir dica do dia"},
-};
-
-} // namespace
+#include <algorithm>
 
 void frmprincipal::montar_menus() {
     QHash<QString, QMenu*> menus;
@@ -58,23 +39,10 @@ void frmprincipal::montar_menus() {
         auto* a = new QAction(e.caption, this);
         a->setObjectName(e.name);
         a->setCheckable(e.checkable);
-        a->setEnabled(false);
         if (parent) parent->addAction(a);
         items_.insert(e.name, a);
-        const QString name = e.name;
-        connect(a, &QAction::triggered, this, [this, name]() { executar_item(name); });
+        ligar(a, e.name);
     }
-    // the items this program has a routine for
-    QStringList working = {QStringLiteral("mnusair"),          QStringLiteral("mnuexibirprincipal"),
-                           QStringLiteral("mnuiniciar"),       QStringLiteral("mnulogininiciar"),
-                           QStringLiteral("mnunotepad"),       QStringLiteral("mnucalc"),
-                           QStringLiteral("mnumostrardicadia")};
-    for (const auto& t : toggles)
-        working << QString::fromLatin1(t.item);
-    for (const auto& e : shell::main_menu())
-        if (!shell::maker_page(e.name).isEmpty() || shell::find_action(e.name)) working << e.name;
-    for (const QString& n : working)
-        if (QAction* a = items_.value(n)) a->setEnabled(true);
 }
 
 void frmprincipal::montar_toolbar() {
@@ -86,12 +54,9 @@ void frmprincipal::montar_toolbar() {
         if (!e.dropdown.isEmpty()) {
             QToolButton* holder = toolbar_buttons_.value(e.dropdown);
             if (!holder) continue;
-            QAction* source = items_.value(e.menu_item);
             auto* a = holder->menu()->addAction(e.caption);
             a->setObjectName(e.key);
-            a->setEnabled(source && source->isEnabled());
-            const QString key = e.key;
-            connect(a, &QAction::triggered, this, [this, key]() { executar_botao(key); });
+            ligar(a, e.menu_item);
             if (a->isEnabled()) holder->setEnabled(true);
             continue;
         }
@@ -104,10 +69,7 @@ void frmprincipal::montar_toolbar() {
             b->setPopupMode(QToolButton::InstantPopup);
             b->setEnabled(false); // enabled by the first entry that works
         } else {
-            QAction* source = items_.value(e.menu_item);
-            b->setEnabled(source && source->isEnabled());
-            const QString key = e.key;
-            connect(b, &QToolButton::clicked, this, [this, key]() { executar_botao(key); });
+            ligar(b, e.menu_item);
         }
         tbrbarra->addWidget(b);
         toolbar_buttons_.insert(e.key, b);
@@ -120,49 +82,6 @@ void frmprincipal::executar_botao(const QString& key) {
             executar_item(e.menu_item);
             return;
         }
-}
-
-void frmprincipal::executar_item(const QString& name) {
-    QAction* a = items_.value(name);
-    if (!a || !a->isEnabled()) return;
-    for (const auto& t : toggles)
-        if (name == QLatin1String(t.item)) {
-            // a checkable action has flipped its mark before this runs: the mark is the new state
-            store::save_setting(*t.section, QString::fromUtf8(t.key),
-                                a->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
-            return;
-        }
-    if (name == QLatin1String("mnusair")) {
-        close();
-    } else if (name == QLatin1String("mnucaddespesas")) {
-        adicionarpagar();
-    } else if (name == QLatin1String("mnucadrececeber")) {
-        adicionarreceber();
-    } else if (name == QLatin1String("mnucadbancario")) {
-        adicionarmovimento();
-    } else if (name == QLatin1String("mnucadbancos")) {
-        adicionarbanco();
-    } else if (name == QLatin1String("mnumostrardicadia")) {
-        frmdica::mostrar_por_pedido(this);
-    } else if (name == QLatin1String("mnuexibirprincipal")) {
-        mnuexibirprincipal_click();
-    } else if (name == QLatin1String("mnuiniciar")) {
-        mnuiniciar_click();
-    } else if (name == QLatin1String("mnulogininiciar")) {
-        mnulogininiciar_click();
-    } else if (name == QLatin1String("mnunotepad")) {
-        if (!platform::desktop().start_editor())
-            platform::msgbox(QStringLiteral("Não foi encontrado um editor de textos neste computador."),
-                             platform::exclamation, QStringLiteral("Bloco de notas"));
-    } else if (name == QLatin1String("mnucalc")) {
-        if (!platform::desktop().start_calculator())
-            platform::msgbox(QStringLiteral("Não foi encontrada uma calculadora neste computador."),
-                             platform::exclamation, QStringLiteral("Calculadora"));
-    } else if (const QString page = shell::maker_page(name); !page.isEmpty()) {
-        platform::desktop().open(page);
-    } else {
-        shell::run_action(name);
-    }
 }
 
 void frmprincipal::mnuexibirprincipal_click() {
@@ -200,22 +119,5 @@ void frmprincipal::mnuiniciar_click() {
 }
 
 void frmprincipal::mnulogininiciar_click() {
-    gravar_exigirlogin(item(QStringLiteral("mnulogininiciar"))->isChecked());
-}
-
-void frmprincipal::ligar_botoes() {
-    // buttons that act as menu items
-    const struct {
-        QPushButton* button;
-        const char* item;
-    } routes[] = {{cmdconfbanc, "mnuconfigsoft"},   {cmdhistoricocli, "mnufincli"},
-                  {cmdhistoricoforn, "mnufinforn"}, {cmdprojecaop, "mnumetadesp"},
-                  {cmdprojecoesr, "mnumetarec"},    {cmdmesp, "mnuvisvencpagar"},
-                  {cmdmesr, "mnuvisvencreceber"}};
-    for (const auto& r : routes) {
-        const QString name = QString::fromLatin1(r.item);
-        QAction* a = items_.value(name);
-        r.button->setEnabled(a && a->isEnabled());
-        connect(r.button, &QPushButton::clicked, this, [this, name]() { executar_item(name); });
-    }
+    shell::gravar_exigirlogin(item(QStringLiteral("mnulogininiciar"))->isChecked());
 }
