@@ -28,6 +28,7 @@ struct entry_fields {
     QString valor;
     QString vencimento;
     QString moeda;
+    bool operator==(const entry_fields&) const = default;
 };
 
 using vb::trim_blanks;

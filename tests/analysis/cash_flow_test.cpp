@@ -3,7 +3,7 @@
 
 #include "analysis/cash_flow.h"
 #include "analysis/ui/frmfluxo.h"
-#include "entries/window_fixture.h"
+#include "support/window_fixture.h"
 #include "platform/print/printer.h"
 
 #include <QFile>

@@ -3,7 +3,7 @@
 
 #include "analysis/comparison.h"
 #include "analysis/ui/frmcomparacao.h"
-#include "entries/window_fixture.h"
+#include "support/window_fixture.h"
 #include "platform/print/printer.h"
 
 #include <QFile>

@@ -4,7 +4,7 @@
 #include "analysis/integrated_report.h"
 #include "analysis/ui/frmgeradorret.h"
 #include "analysis/ui/frmrelatorioint.h"
-#include "entries/window_fixture.h"
+#include "support/window_fixture.h"
 #include "platform/print/printer.h"
 #include "registers/ui/frmgeradorad.h"
 

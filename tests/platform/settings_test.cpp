@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using settings = support::fixture;
@@ -17,66 +19,44 @@ QString file_text(const QString& p) {
 }
 
 TEST_F(settings, keys_ignore_case_and_sections_stay_apart) {
-    const QString app = QStringLiteral("Quintara");
-    EXPECT_EQ(platform::get_setting(app, QStringLiteral("Configurações"), QStringLiteral("OrdemM"),
-                                    QStringLiteral("true")),
-              QStringLiteral("true"));
-    platform::save_setting(app, QStringLiteral("Configurações"), QStringLiteral("VisualizarDadosbancario"),
-                           QStringLiteral("2"));
-    EXPECT_EQ(platform::get_setting(app, QStringLiteral("Configurações"),
-                                    QStringLiteral("VisualizarDadosBancario"), QStringLiteral("0")),
-              QStringLiteral("2"));
-    platform::save_setting(app, QStringLiteral("configuracoes"), QStringLiteral("Exibir dica do dia"),
-                           QStringLiteral("0"));
-    platform::save_setting(app, QStringLiteral("Configurações\\relatorio"), QStringLiteral("nome"),
-                           QStringLiteral("Padaria Pão & Mel"));
-    EXPECT_EQ(platform::get_setting(app, QStringLiteral("Configurações"),
-                                    QStringLiteral("Exibir dica do dia"), QStringLiteral("1")),
-              QStringLiteral("1"));
-    EXPECT_EQ(platform::get_setting(app, QStringLiteral("Configurações"), QStringLiteral("nome"),
-                                    QStringLiteral("?")),
-              QStringLiteral("?"));
-    EXPECT_EQ(platform::get_setting(app, QStringLiteral("CONFIGURACOES"),
-                                    QStringLiteral("exibir DICA do dia"), QStringLiteral("1")),
-              QStringLiteral("0"));
+    const QString app = u"Quintara"_s;
+    EXPECT_EQ(platform::get_setting(app, u"Configurações"_s, u"OrdemM"_s, u"true"_s), u"true"_s);
+    platform::save_setting(app, u"Configurações"_s, u"VisualizarDadosbancario"_s, u"2"_s);
+    EXPECT_EQ(platform::get_setting(app, u"Configurações"_s, u"VisualizarDadosBancario"_s, u"0"_s), u"2"_s);
+    platform::save_setting(app, u"configuracoes"_s, u"Exibir dica do dia"_s, u"0"_s);
+    platform::save_setting(app, u"Configurações\\relatorio"_s, u"nome"_s, u"Padaria Pão & Mel"_s);
+    EXPECT_EQ(platform::get_setting(app, u"Configurações"_s, u"Exibir dica do dia"_s, u"1"_s), u"1"_s);
+    EXPECT_EQ(platform::get_setting(app, u"Configurações"_s, u"nome"_s, u"?"_s), u"?"_s);
+    EXPECT_EQ(platform::get_setting(app, u"CONFIGURACOES"_s, u"exibir DICA do dia"_s, u"1"_s), u"0"_s);
     // a value keeps line breaks and backslashes, and the file is plain text a user can read
-    platform::save_setting(app, QStringLiteral("Configurações"), QStringLiteral("RedeLocal"),
-                           QStringLiteral("\\\\srv\\dados\nx"));
-    EXPECT_EQ(
-        platform::get_setting(app, QStringLiteral("Configurações"), QStringLiteral("redelocal"), QString()),
-        QStringLiteral("\\\\srv\\dados\nx"));
+    platform::save_setting(app, u"Configurações"_s, u"RedeLocal"_s, u"\\\\srv\\dados\nx"_s);
+    EXPECT_EQ(platform::get_setting(app, u"Configurações"_s, u"redelocal"_s, QString()),
+              u"\\\\srv\\dados\nx"_s);
     const QString text = file_text(settings_file());
-    EXPECT_TRUE(text.contains(QStringLiteral("[Configurações\\relatorio]\nnome=Padaria Pão & Mel\n")))
-        << qPrintable(text);
-    EXPECT_TRUE(text.contains(QStringLiteral("VisualizarDadosbancario=2")));
+    EXPECT_TRUE(text.contains(u"[Configurações\\relatorio]\nnome=Padaria Pão & Mel\n"_s)) << qPrintable(text);
+    EXPECT_TRUE(text.contains(u"VisualizarDadosbancario=2"_s));
 }
 
 TEST_F(settings, nothing_is_cached_between_reads) {
-    const QString app = QStringLiteral("Quintara");
-    platform::save_setting(app, QStringLiteral("Configurações"), QStringLiteral("FiltroP"),
-                           QStringLiteral("Mês anterior"));
+    const QString app = u"Quintara"_s;
+    platform::save_setting(app, u"Configurações"_s, u"FiltroP"_s, u"Mês anterior"_s);
     QFile f(settings_file());
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("[Configurações]\nFiltroP=Próximo mês\n");
     f.close();
-    EXPECT_EQ(
-        platform::get_setting(app, QStringLiteral("Configurações"), QStringLiteral("FiltroP"), QString()),
-        QStringLiteral("Próximo mês"));
+    EXPECT_EQ(platform::get_setting(app, u"Configurações"_s, u"FiltroP"_s, QString()), u"Próximo mês"_s);
 }
 
 TEST_F(settings, profile_files_read_write_and_truncate) {
-    const QString ini = path(QStringLiteral("pagar.ini"));
-    EXPECT_EQ(
-        platform::lerini(QStringLiteral("TAMANHO"), QStringLiteral("data"), QStringLiteral("1319,8111"), ini),
-        QStringLiteral("1319,8111"));
-    platform::gravarini(QStringLiteral("TAMANHO"), QStringLiteral("data"), QStringLiteral("1500,5"), ini);
-    platform::gravarini(QStringLiteral("POSICAO"), QStringLiteral("posicao1"), QStringLiteral("3"), ini);
-    platform::gravarini(QStringLiteral("tamanho"), QStringLiteral("DATA"), QStringLiteral("1600"), ini);
-    EXPECT_EQ(platform::lerini(QStringLiteral("TAMANHO"), QStringLiteral("data"), QString(), ini),
-              QStringLiteral("1600"));
-    EXPECT_EQ(file_text(ini), QStringLiteral("[TAMANHO]\ndata=1600\n\n[POSICAO]\nposicao1=3\n"));
-    platform::gravarini(QStringLiteral("X"), QStringLiteral("longo"), QString(300, QLatin1Char('a')), ini);
-    EXPECT_EQ(platform::lerini(QStringLiteral("X"), QStringLiteral("longo"), QString(), ini).size(), 254);
+    const QString ini = path(u"pagar.ini"_s);
+    EXPECT_EQ(platform::lerini(u"TAMANHO"_s, u"data"_s, u"1319,8111"_s, ini), u"1319,8111"_s);
+    platform::gravarini(u"TAMANHO"_s, u"data"_s, u"1500,5"_s, ini);
+    platform::gravarini(u"POSICAO"_s, u"posicao1"_s, u"3"_s, ini);
+    platform::gravarini(u"tamanho"_s, u"DATA"_s, u"1600"_s, ini);
+    EXPECT_EQ(platform::lerini(u"TAMANHO"_s, u"data"_s, QString(), ini), u"1600"_s);
+    EXPECT_EQ(file_text(ini), u"[TAMANHO]\ndata=1600\n\n[POSICAO]\nposicao1=3\n"_s);
+    platform::gravarini(u"X"_s, u"longo"_s, QString(300, QLatin1Char('a')), ini);
+    EXPECT_EQ(platform::lerini(u"X"_s, u"longo"_s, QString(), ini).size(), 254);
 }
 
 TEST_F(settings, run_entry_maps_to_an_autostart_file) {
@@ -84,28 +64,26 @@ TEST_F(settings, run_entry_maps_to_an_autostart_file) {
     QString sub;
     EXPECT_TRUE(platform::dividirchave(platform::run_key, root, sub));
     EXPECT_EQ(root, platform::hkey_local_machine);
-    EXPECT_EQ(sub, QStringLiteral("SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION\\RUN"));
-    EXPECT_FALSE(platform::dividirchave(QStringLiteral("SOFTWARE\\X"), root, sub));
-    EXPECT_FALSE(platform::dividirchave(QStringLiteral("HKEY_CURRENT_USER\\X\\"), root, sub));
+    EXPECT_EQ(sub, u"SOFTWARE\\MICROSOFT\\WINDOWS\\CURRENTVERSION\\RUN"_s);
+    EXPECT_FALSE(platform::dividirchave(u"SOFTWARE\\X"_s, root, sub));
+    EXPECT_FALSE(platform::dividirchave(u"HKEY_CURRENT_USER\\X\\"_s, root, sub));
     ASSERT_EQ(prompts_.boxes().size(), 2u);
-    EXPECT_EQ(prompts_.boxes()[0].text, QStringLiteral("Incorrect Format:\n\nSOFTWARE\\X"));
-    EXPECT_EQ(platform::raizregistro(QStringLiteral("HKEY_DYN_DATA")), platform::hkey_dyn_data);
-    EXPECT_EQ(platform::raizregistro(QStringLiteral("HKEY_NADA")), platform::no_root);
+    EXPECT_EQ(prompts_.boxes()[0].text, u"Incorrect Format:\n\nSOFTWARE\\X"_s);
+    EXPECT_EQ(platform::raizregistro(u"HKEY_DYN_DATA"_s), platform::hkey_dyn_data);
+    EXPECT_EQ(platform::raizregistro(u"HKEY_NADA"_s), platform::no_root);
 
-    platform::gravarregistro(platform::run_key, QStringLiteral("Quintara"),
-                             QStringLiteral("/opt/quintara/quintara"));
-    const QString file = platform::autostart_file(QStringLiteral("Quintara"));
-    EXPECT_TRUE(file_text(file).contains(QStringLiteral("Exec=/opt/quintara/quintara\n")));
-    EXPECT_TRUE(file_text(file).contains(QStringLiteral("Hidden=false")));
+    platform::gravarregistro(platform::run_key, u"Quintara"_s, u"/opt/quintara/quintara"_s);
+    const QString file = platform::autostart_file(u"Quintara"_s);
+    EXPECT_TRUE(file_text(file).contains(u"Exec=/opt/quintara/quintara\n"_s));
+    EXPECT_TRUE(file_text(file).contains(u"Hidden=false"_s));
     // off: rewritten with the empty text, not removed
-    platform::gravarregistro(platform::run_key, QStringLiteral("Quintara"), QString());
+    platform::gravarregistro(platform::run_key, u"Quintara"_s, QString());
     EXPECT_TRUE(QFile::exists(file));
-    EXPECT_TRUE(file_text(file).contains(QStringLiteral("Exec=\n")));
-    EXPECT_TRUE(file_text(file).contains(QStringLiteral("Hidden=true")));
+    EXPECT_TRUE(file_text(file).contains(u"Exec=\n"_s));
+    EXPECT_TRUE(file_text(file).contains(u"Hidden=true"_s));
     // other keys have no place on this desktop and are left alone
-    platform::gravarregistro(QStringLiteral("HKEY_CURRENT_USER\\Software\\Outro"), QStringLiteral("Outro"),
-                             QStringLiteral("x"));
-    EXPECT_FALSE(QFile::exists(platform::autostart_file(QStringLiteral("Outro"))));
+    platform::gravarregistro(u"HKEY_CURRENT_USER\\Software\\Outro"_s, u"Outro"_s, u"x"_s);
+    EXPECT_FALSE(QFile::exists(platform::autostart_file(u"Outro"_s)));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The cost and profit centre windows: adding, renaming into the entries, removing, the summary
 // with its files and print, and what closing refreshes; the chooser of the report filters.
 
-#include "entries/window_fixture.h"
+#include "support/window_fixture.h"
 #include "output/report_frame.h"
 #include "platform/print/printer.h"
 #include "registers/centres.h"

@@ -2,9 +2,9 @@
 // add, edit and remove, the quick add from the entry windows, export and print, the history.
 
 #include "entries/ui/frmmultiplos.h"
-#include "entries/window_fixture.h"
+#include "support/window_fixture.h"
 #include "platform/print/printer.h"
-#include "platform/widgets/key_input.h"
+#include "support/key_input.h"
 #include "registers/ui/frmcadcontato.h"
 #include "registers/ui/frmcontatos.h"
 #include "registers/ui/frmfincontato.h"

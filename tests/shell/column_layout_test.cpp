@@ -2,6 +2,7 @@
 
 #include "platform/settings.h"
 #include "support/fixture.h"
+#include "support/golden.h"
 
 #include <QFile>
 
@@ -26,44 +27,16 @@ protected:
 
 } // namespace
 
-TEST(column_defs, the_twins_differ_only_in_the_contact_heading) {
-    const auto& p = shell::ledger_columns(ledger::pagar);
-    const auto& r = shell::ledger_columns(ledger::receber);
-    const auto& b = shell::ledger_columns(ledger::bancario);
-    ASSERT_EQ(p.size(), 10u);
-    ASSERT_EQ(r.size(), 10u);
-    ASSERT_EQ(b.size(), 8u);
-    for (std::size_t i = 0; i < p.size(); ++i) {
-        EXPECT_EQ(p[i].key, r[i].key);
-        EXPECT_EQ(p[i].default_width, r[i].default_width);
-        EXPECT_EQ(p[i].tag, r[i].tag);
-        if (i != 4) {
-            EXPECT_EQ(p[i].heading, r[i].heading);
-        }
+TEST(column_defs, the_columns_of_the_three_lists) {
+    QString out;
+    for (const ledger which : shell::all_ledgers) {
+        out += shell::traits(which).lista + u":\n"_s;
+        for (const auto& c : shell::ledger_columns(which))
+            out += u"  %1 \"%2\" %3 tag %4%5\n"_s.arg(c.key, c.heading, c.default_width)
+                       .arg(c.tag)
+                       .arg(c.align == Qt::AlignRight ? u" right"_s : QString());
     }
-    EXPECT_EQ(p[4].heading, u"Fornecedor"_s);
-    EXPECT_EQ(r[4].heading, u"Cliente"_s);
-    // dates sort as dates, amounts as numbers
-    EXPECT_EQ(p[1].tag, shell::tag_date);
-    EXPECT_EQ(p[5].tag, shell::tag_date);
-    EXPECT_EQ(p[6].tag, shell::tag_number);
-    EXPECT_EQ(b[1].tag, shell::tag_date);
-    EXPECT_EQ(b[5].tag, shell::tag_number);
-    EXPECT_EQ(b[7].key, u"info"_s);
-}
-
-TEST(column_defs, single_precision_widths_as_the_locale_writes_them) {
-    EXPECT_EQ(shell::single_text(1319.8111), u"1319,811"_s);
-    EXPECT_EQ(shell::single_text(3240.0003), u"3240"_s);
-    EXPECT_EQ(shell::single_text(1500), u"1500"_s);
-    EXPECT_EQ(shell::single_text(0), u"0"_s);
-    EXPECT_EQ(shell::single_text(13198111), u"1,319811E+07"_s);
-    EXPECT_EQ(shell::read_single(u"1319,811"_s), double(1319.811f));
-    EXPECT_EQ(shell::read_single(u"1,319811E+07"_s), double(13198110.0f));
-    // a point is a thousands mark under the Brazilian rule
-    EXPECT_EQ(shell::read_single(u"1319.8111"_s), double(13198111.0f));
-    EXPECT_FALSE(shell::read_single(u"largo"_s));
-    EXPECT_FALSE(shell::read_single(u"1e60"_s));
+    EXPECT_TRUE(support::matches_golden(u"shell/ledger_columns.txt"_s, out));
 }
 
 TEST_F(column_layout, a_missing_file_gives_the_defaults) {

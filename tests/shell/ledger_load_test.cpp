@@ -111,15 +111,11 @@ TEST_F(ledger_load, movements_count_and_sum_by_kind) {
 TEST_F(ledger_load, empty_results_give_the_zero_labels_without_waiting) {
     int walks = 0;
     const auto count = [&] { ++walks; };
-    const auto p = shell::load_ledger(ledger::pagar, u"SELECT * FROM pagar order by data"_s, count);
-    EXPECT_TRUE(p.rows.empty());
-    EXPECT_EQ(p.label, u"0 cadastros  -  Total de despesas: 0  -  Total pago: 0  -  Total pendente: 0"_s);
-    const auto r = shell::load_ledger(ledger::receber, u"SELECT * FROM receber order by data"_s, count);
-    EXPECT_EQ(r.label, u"0 cadastrados  -  Total de lucros: 0  -  Total recebido: 0  -  Total pendente: 0"_s);
-    const auto b = shell::load_ledger(ledger::bancario, u"Select * from bancario order by data ASC"_s, count);
-    EXPECT_EQ(
-        b.label,
-        u"Depósitos: R$ 0,00 (0 cad.) - Retiradas: R$ 0,00 (0 cad.) - Transferência: R$ 0,00 (0 cad.)"_s);
+    for (const ledger which : shell::all_ledgers) {
+        const auto v = shell::load_ledger(which, u"SELECT * FROM "_s + shell::traits(which).tabela, count);
+        EXPECT_TRUE(v.rows.empty());
+        EXPECT_EQ(v.label, shell::empty_label(which));
+    }
     EXPECT_EQ(walks, 0);
 }
 

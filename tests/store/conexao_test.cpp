@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class conexao : public support::fixture {};
@@ -19,15 +21,14 @@ TEST_F(conexao, opens_the_local_file) {
     store::conectarbanco();
     ASSERT_TRUE(store::conexao);
     sql::recordset rs;
-    rs.open(QStringLiteral("SELECT * FROM fpagamento"), store::conexao);
+    rs.open(u"SELECT * FROM fpagamento"_s, store::conexao);
     EXPECT_GT(rs.record_count(), 5);
     EXPECT_TRUE(prompts_.records().empty());
 }
 
 TEST_F(conexao, a_missing_file_retries_then_turns_network_mode_off) {
-    store::save_setting(store::secao_config, QStringLiteral("RedeLocal"),
-                        path(QStringLiteral("rede/dados.qntbd")));
-    store::save_setting(store::secao_config, QStringLiteral("EmRede"), QStringLiteral("1"));
+    store::save_setting(store::secao_config, u"RedeLocal"_s, path(u"rede/dados.qntbd"_s));
+    store::save_setting(store::secao_config, u"EmRede"_s, u"1"_s);
     store::conectarbanco();
     EXPECT_FALSE(store::conexao);
     EXPECT_EQ(store::tentativasconexao, 20);
@@ -35,15 +36,13 @@ TEST_F(conexao, a_missing_file_retries_then_turns_network_mode_off) {
     EXPECT_EQ(clock_.slept_ms(), 19 * 800);
     const auto boxes = prompts_.boxes();
     ASSERT_EQ(boxes.size(), 1u);
-    EXPECT_EQ(boxes[0].title, QStringLiteral("Erro"));
+    EXPECT_EQ(boxes[0].title, u"Erro"_s);
     EXPECT_EQ(boxes[0].style, platform::critical);
     EXPECT_TRUE(boxes[0].text.startsWith(mensagem)) << qPrintable(boxes[0].text);
     EXPECT_GT(boxes[0].text.size(), mensagem.size());
-    EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("EmRede"), QString()), QStringLiteral("0"));
-    EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("RedeLocal"), QString()),
-              QStringLiteral("SemRede"));
-    EXPECT_EQ(store::setting(store::secao_config, QStringLiteral("BackupID"), QString()),
-              QStringLiteral("0"));
+    EXPECT_EQ(store::setting(store::secao_config, u"EmRede"_s, QString()), u"0"_s);
+    EXPECT_EQ(store::setting(store::secao_config, u"RedeLocal"_s, QString()), u"SemRede"_s);
+    EXPECT_EQ(store::setting(store::secao_config, u"BackupID"_s, QString()), u"0"_s);
     // the next connection uses the local file
     prompts_.clear();
     store::conectarbanco();
@@ -55,7 +54,7 @@ TEST_F(conexao, files_that_are_not_data_files_fail_the_same_way) {
     const QByteArray contents[] = {QByteArray("SQLite format 3\0", 16) + QByteArray(4080, '\0'),
                                    QByteArray(5000, '\x5a'), QByteArray()};
     for (const QByteArray& c : contents) {
-        QFile f(path(QStringLiteral("dados.qntbd")));
+        QFile f(path(u"dados.qntbd"_s));
         ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
         f.write(c);
         f.close();
@@ -68,13 +67,12 @@ TEST_F(conexao, files_that_are_not_data_files_fail_the_same_way) {
 }
 
 TEST_F(conexao, network_path_is_used_as_it_stands) {
-    QFile::copy(path(QStringLiteral("dados.qntbd")), path(QStringLiteral("compartilhado.qntbd")));
-    store::save_setting(store::secao_config, QStringLiteral("RedeLocal"),
-                        path(QStringLiteral("compartilhado.qntbd")));
-    QFile::remove(path(QStringLiteral("dados.qntbd")));
+    QFile::copy(path(u"dados.qntbd"_s), path(u"compartilhado.qntbd"_s));
+    store::save_setting(store::secao_config, u"RedeLocal"_s, path(u"compartilhado.qntbd"_s));
+    QFile::remove(path(u"dados.qntbd"_s));
     store::conectarbanco();
     EXPECT_TRUE(store::conexao);
-    EXPECT_EQ(store::caminho_dados(store::arquivo_dados), path(QStringLiteral("compartilhado.qntbd")));
+    EXPECT_EQ(store::caminho_dados(store::arquivo_dados), path(u"compartilhado.qntbd"_s));
 }
 
 } // namespace

@@ -10,13 +10,15 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace support {
 
 void copy_fresh_data_file(const QString& path) {
     // built once per test program, copied after: the copy keeps its salt, so its key is derived once
     static QTemporaryDir templ;
     static const QString made = [] {
-        const QString p = templ.path() + QStringLiteral("/dados.qntbd");
+        const QString p = templ.path() + u"/dados.qntbd"_s;
         store::create_data_file(p);
         return p;
     }();
@@ -27,12 +29,12 @@ void copy_fresh_data_file(const QString& path) {
 
 void fixture::SetUp() {
     ASSERT_TRUE(dir_.isValid());
-    copy_fresh_data_file(path(QStringLiteral("dados.qntbd")));
-    QFile::copy(QStringLiteral(QUINTARA_DATA_DIR "/dicas.txt"), path(QStringLiteral("dicas.txt")));
-    QFile::copy(QStringLiteral(QUINTARA_DATA_DIR "/fundo.gif"), path(QStringLiteral("fundo.gif")));
-    QDir().mkpath(path(QStringLiteral("config")));
+    copy_fresh_data_file(path(u"dados.qntbd"_s));
+    QFile::copy(QStringLiteral(QUINTARA_DATA_DIR "/dicas.txt"), path(u"dicas.txt"_s));
+    QFile::copy(QStringLiteral(QUINTARA_DATA_DIR "/fundo.gif"), path(u"fundo.gif"_s));
+    QDir().mkpath(path(u"config"_s));
     store::set_program_dir(dir_.path());
-    platform::set_settings_root(path(QStringLiteral("config")));
+    platform::set_settings_root(path(u"config"_s));
     platform::set_clock(&clock_);
     platform::set_random_source([] { return 0.0; });
     platform::set_prompts(&prompts_);
@@ -52,16 +54,16 @@ void fixture::TearDown() {
 }
 
 QString fixture::settings_file() const {
-    return platform::settings_file(QStringLiteral("Quintara"));
+    return platform::settings_file(u"Quintara"_s);
 }
 
 void fixture::exec(const QString& statement) {
-    auto c = sql::connection::open(path(QStringLiteral("dados.qntbd")), store::senha_dados.toUtf8());
+    auto c = sql::connection::open(path(u"dados.qntbd"_s), store::senha_dados.toUtf8());
     c->execute(statement);
 }
 
 QStringList fixture::rows(const QString& statement) {
-    auto c = sql::connection::open(path(QStringLiteral("dados.qntbd")), store::senha_dados.toUtf8());
+    auto c = sql::connection::open(path(u"dados.qntbd"_s), store::senha_dados.toUtf8());
     sql::recordset rs;
     rs.open(statement, c);
     QStringList out;

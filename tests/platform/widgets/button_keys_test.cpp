@@ -1,4 +1,4 @@
-#include "key_input.h"
+#include "support/key_input.h"
 #include "platform/widgets/button_keys.h"
 
 #include <QCheckBox>

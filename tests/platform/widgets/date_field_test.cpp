@@ -2,13 +2,16 @@
 
 #include "platform/clock.h"
 
-#include "key_input.h"
+#include "support/golden.h"
+#include "support/key_input.h"
 
 #include <QCalendarWidget>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,54 +35,24 @@ TEST(date_field, starts_empty) {
     EXPECT_FALSE(d.date().isValid());
 }
 
-TEST(date_field, set_text_reads_both_forms_and_keeps_what_it_cannot_read) {
-    struct row {
-        const char* set;
-        const char* text;  // text()
-        const char* shown; // what the box holds
-    };
-    const row rows[] = {
-        {"23/11/2026", "23/11/2026", "23/11/2026"}, {"2026/11/23", "23/11/2026", "23/11/2026"},
-        {"1/2/26", "01/02/2026", "01/02/2026"},     {"", "", ""},
-        {"31/02/2026", "", "31/02/2026"},           {"amanhã", "", "amanhã"},
-    };
-    for (const row& r : rows) {
-        SCOPED_TRACE(r.set);
-        date_field d;
-        d.set_date(QDate(2020, 1, 1));
-        d.set_text(QString::fromUtf8(r.set));
-        EXPECT_EQ(d.text(), QString::fromUtf8(r.text));
-        EXPECT_EQ(d.typed_text(), QString::fromUtf8(r.shown));
-        EXPECT_EQ(d.date().isValid(), *r.text != '\0');
-    }
-    date_field d;
-    d.set_text(QStringLiteral("2026/11/23"));
-    EXPECT_EQ(d.date(), QDate(2026, 11, 23));
-    d.set_date(QDate());
-    EXPECT_TRUE(d.is_empty());
-}
-
-TEST(date_field, typed_dates_are_tidied_on_leaving_and_letters_are_not_typed) {
-    struct row {
-        const char* keys;
-        const char* shown; // after leaving
-        const char* text;
-    };
-    const row rows[] = {
-        {"23/11/2026", "23/11/2026", "23/11/2026"}, {"23112026", "23/11/2026", "23/11/2026"},
-        {"5/3/2027", "05/03/2027", "05/03/2027"},   {"2x3/1a1/2026", "23/11/2026", "23/11/2026"},
-        {"99/99/9999", "99/99/9999", ""},           {"", "", ""},
-    };
-    for (const row& r : rows) {
-        SCOPED_TRACE(r.keys);
+// "set [text]": text() and what the box holds; "typed [keys]": what it holds after Enter, and text();
+// against tests/data/platform/date_field.txt.
+TEST(date_field, set_and_typed_dates_as_the_baseline_gives_them) {
+    EXPECT_TRUE(support::matches_baseline(u"platform/date_field.txt"_s, [](const QString& line) {
+        const QString t = support::bracketed(line)[0];
         date_window w;
-        w.txtvencimento->setFocus();
-        keys::type(w.txtvencimento->line_edit(), QString::fromUtf8(r.keys));
-        keys::enter(w.txtvencimento->line_edit());
-        EXPECT_TRUE(w.next->hasFocus());
-        EXPECT_EQ(w.txtvencimento->typed_text(), QString::fromUtf8(r.shown));
-        EXPECT_EQ(w.txtvencimento->text(), QString::fromUtf8(r.text));
-    }
+        if (line.startsWith(u"set"_s)) {
+            w.txtvencimento->set_date(QDate(2020, 1, 1));
+            w.txtvencimento->set_text(t);
+        } else {
+            w.txtvencimento->setFocus();
+            keys::type(w.txtvencimento->line_edit(), t);
+            keys::enter(w.txtvencimento->line_edit());
+        }
+        return QStringList{
+            u"text [%1], shows [%2]%3"_s.arg(w.txtvencimento->text(), w.txtvencimento->typed_text(),
+                                             w.txtvencimento->date().isValid() ? u""_s : u", no date"_s)};
+    }));
 }
 
 TEST(date_field, the_calendar_picks_a_date_and_tells_when_it_opens_and_closes) {
@@ -102,16 +75,16 @@ TEST(date_field, the_calendar_picks_a_date_and_tells_when_it_opens_and_closes) {
     EXPECT_EQ(w.txtvencimento->calendar()->selectedDate(), QDate(2026, 11, 23));
     Q_EMIT w.txtvencimento->calendar()->clicked(QDate(2026, 12, 10));
     EXPECT_FALSE(w.txtvencimento->calendar_open());
-    EXPECT_EQ(w.txtvencimento->text(), QStringLiteral("10/12/2026"));
+    EXPECT_EQ(w.txtvencimento->text(), u"10/12/2026"_s);
     EXPECT_EQ(opened, 1);
     EXPECT_EQ(closed, 1);
 
     // With a date, it starts there; Escape closes it and changes nothing.
     w.txtvencimento->open_calendar();
     EXPECT_EQ(w.txtvencimento->calendar()->selectedDate(), QDate(2026, 12, 10));
-    keys::press(w.txtvencimento->calendar(), Qt::Key_Escape, Qt::NoModifier, QStringLiteral("\x1b"));
+    keys::press(w.txtvencimento->calendar(), Qt::Key_Escape, Qt::NoModifier, u"\x1b"_s);
     EXPECT_FALSE(w.txtvencimento->calendar_open());
-    EXPECT_EQ(w.txtvencimento->text(), QStringLiteral("10/12/2026"));
+    EXPECT_EQ(w.txtvencimento->text(), u"10/12/2026"_s);
     EXPECT_EQ(opened, 2);
     EXPECT_EQ(closed, 2);
     platform::set_clock(nullptr);

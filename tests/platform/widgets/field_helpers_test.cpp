@@ -4,7 +4,8 @@
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/money_field.h"
 
-#include "key_input.h"
+#include "support/golden.h"
+#include "support/key_input.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -13,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QColor pale_yellow(255, 255, 192);
@@ -20,50 +23,25 @@ const QColor pale_yellow(255, 255, 192);
 QComboBox* fruit_box(QWidget* parent) {
     auto* box = new QComboBox(parent);
     box->setEditable(true);
-    box->addItems({QStringLiteral("Água"), QStringLiteral("abacaxi"), QStringLiteral("Abacate"),
-                   QStringLiteral("banana"), QStringLiteral("banco do brasil")});
+    box->addItems({u"Água"_s, u"abacaxi"_s, u"Abacate"_s, u"banana"_s, u"banco do brasil"_s});
     box->setCurrentIndex(-1);
     return box;
 }
 
+// "<old key code> [typed]": what the box shows and which tail is selected, against
+// tests/data/platform/completarcombo.txt.
 TEST(completarcombo, completes_with_the_first_match_and_selects_the_tail) {
-    struct row {
-        const char* typed;
-        int key;
-        const char* shown;
-        int index;  // -1: unchanged
-        int cursor; // where the selection starts; -1: left as typed
-        int sel_length;
-    };
-    const row rows[] = {
-        {"ab", 'B', "abacaxi", 1, 2, 5},
-        {"AB", 'B', "abacaxi", 1, 2, 5}, // whatever the case
-        {"abacat", 'T', "Abacate", 2, 6, 1},
-        {"á", 186, "Água", 0, 1, 3},
-        {"BANANA", 'A', "banana", 3, 6, 0},
-        {"banco ", 32, "banco do brasil", 4, 6, 9}, // the space is typed text, not a control key
-        {"b", 0, "banana", 3, 1, 5},
-        {"xyz", 'Z', "xyz", -1, -1, 0}, // no match changes nothing
-        {"ab", 8, "ab", -1, -1, 0},     // Backspace
-        {"ab", 37, "ab", -1, -1, 0},    // arrow
-        {"ab", 16, "ab", -1, -1, 0},    // Shift
-        {"", 'A', "", -1, -1, 0},
-    };
-    for (const row& r : rows) {
-        SCOPED_TRACE(r.typed);
+    EXPECT_TRUE(support::matches_baseline(u"platform/completarcombo.txt"_s, [](const QString& line) {
         QWidget window;
         QComboBox* box = fruit_box(&window);
-        box->setEditText(QString::fromUtf8(r.typed));
-        completarcombo(r.key, box);
-        EXPECT_EQ(box->currentText(), QString::fromUtf8(r.shown));
-        EXPECT_EQ(box->currentIndex(), r.index);
-        EXPECT_EQ(box->lineEdit()->selectedText().size(), r.sel_length);
-        if (r.sel_length > 0) {
-            EXPECT_EQ(box->lineEdit()->selectionStart(), r.cursor);
-        } else if (r.cursor >= 0) {
-            EXPECT_EQ(box->lineEdit()->cursorPosition(), r.cursor);
-        }
-    }
+        box->setEditText(support::bracketed(line)[0]);
+        completarcombo(line.section(QLatin1Char(' '), 0, 0).toInt(), box);
+        return QStringList{u"[%1] entry %2, selected [%3] cursor %4"_s.arg(box->currentText())
+                               .arg(box->currentIndex())
+                               .arg(box->lineEdit()->selectedText())
+                               .arg(box->lineEdit()->hasSelectedText() ? box->lineEdit()->selectionStart()
+                                                                       : box->lineEdit()->cursorPosition())};
+    }));
 }
 
 TEST(completarcombo, runs_on_key_release_and_typing_replaces_the_tail) {
@@ -74,15 +52,15 @@ TEST(completarcombo, runs_on_key_release_and_typing_replaces_the_tail) {
     keys::show_active(&window);
     box->setFocus();
     // An accent counts: "a" is not the start of "Água".
-    keys::type(box, QStringLiteral("a"));
-    EXPECT_EQ(box->currentText(), QStringLiteral("abacaxi"));
-    EXPECT_EQ(box->lineEdit()->selectedText(), QStringLiteral("bacaxi"));
-    keys::type(box, QStringLiteral("bacat"));
-    EXPECT_EQ(box->currentText(), QStringLiteral("Abacate"));
-    EXPECT_EQ(box->lineEdit()->selectedText(), QStringLiteral("e"));
+    keys::type(box, u"a"_s);
+    EXPECT_EQ(box->currentText(), u"abacaxi"_s);
+    EXPECT_EQ(box->lineEdit()->selectedText(), u"bacaxi"_s);
+    keys::type(box, u"bacat"_s);
+    EXPECT_EQ(box->currentText(), u"Abacate"_s);
+    EXPECT_EQ(box->lineEdit()->selectedText(), u"e"_s);
     // Backspace takes the completed tail away and completes nothing.
-    keys::press(box, Qt::Key_Backspace, Qt::NoModifier, QStringLiteral("\b"));
-    EXPECT_EQ(box->currentText(), QStringLiteral("Abacat"));
+    keys::press(box, Qt::Key_Backspace, Qt::NoModifier, u"\b"_s);
+    EXPECT_EQ(box->currentText(), u"Abacat"_s);
 }
 
 struct counting_window {
@@ -116,12 +94,12 @@ TEST(atalhos, alt_with_a_registered_letter_runs_its_action_from_any_field) {
 TEST(atalhos, other_letters_and_other_shift_states_do_nothing) {
     counting_window w;
     keys::alt(w.texto, 'x');
-    keys::press(w.texto, 'C', Qt::AltModifier | Qt::ShiftModifier, QStringLiteral("C"));
-    keys::press(w.texto, 'C', Qt::NoModifier, QStringLiteral("c"));
+    keys::press(w.texto, 'C', Qt::AltModifier | Qt::ShiftModifier, u"C"_s);
+    keys::press(w.texto, 'C', Qt::NoModifier, u"c"_s);
     EXPECT_EQ(w.cancelar, 0);
     EXPECT_EQ(w.inserir, 0);
     // Alt+X typed nothing; the plain C was typed.
-    EXPECT_EQ(w.texto->text(), QStringLiteral("c"));
+    EXPECT_EQ(w.texto->text(), u"c"_s);
 
     EXPECT_TRUE(w.teclas->run('I', 4));
     EXPECT_FALSE(w.teclas->run('I', 0));
@@ -131,13 +109,13 @@ TEST(atalhos, other_letters_and_other_shift_states_do_nothing) {
 
 TEST(atalhos, a_registered_alt_key_wins_over_a_button_mnemonic) {
     counting_window w;
-    auto* button = new QPushButton(QStringLiteral("&Cancelar"), &w.window);
+    auto* button = new QPushButton(u"&Cancelar"_s, &w.window);
     w.teclas->install(button);
-    QKeyEvent over(QEvent::ShortcutOverride, 'C', Qt::AltModifier, QStringLiteral("c"));
+    QKeyEvent over(QEvent::ShortcutOverride, 'C', Qt::AltModifier, u"c"_s);
     over.ignore();
     QCoreApplication::sendEvent(w.texto, &over);
     EXPECT_TRUE(over.isAccepted());
-    QKeyEvent other(QEvent::ShortcutOverride, 'X', Qt::AltModifier, QStringLiteral("x"));
+    QKeyEvent other(QEvent::ShortcutOverride, 'X', Qt::AltModifier, u"x"_s);
     other.ignore();
     QCoreApplication::sendEvent(w.texto, &other);
     EXPECT_FALSE(other.isAccepted());
@@ -150,7 +128,7 @@ struct entry_form {
     date_field* txtdata = new date_field;
     money_field* txtvalor = new money_field;
     QComboBox* cboestatus = new QComboBox;
-    QPushButton* cmdinserir = new QPushButton(QStringLiteral("&Inserir"));
+    QPushButton* cmdinserir = new QPushButton(u"&Inserir"_s);
     int clicked = 0;
 
     entry_form() {
@@ -158,7 +136,7 @@ struct entry_form {
         for (QWidget* w : std::initializer_list<QWidget*>{txtdocumento, cbotipo, txtdata, txtvalor,
                                                           cboestatus, cmdinserir})
             layout->addWidget(w);
-        cboestatus->addItems({QStringLiteral("Pendente"), QStringLiteral("Concluído")});
+        cboestatus->addItems({u"Pendente"_s, u"Concluído"_s});
         cmdinserir->setDefault(true);
         QObject::connect(cmdinserir, &QPushButton::clicked, [this] { ++clicked; });
         install_field_conduct_all(&window);
@@ -172,7 +150,7 @@ TEST(field_conduct, enter_moves_the_focus_on_in_tab_order_and_goes_no_further) {
     entry_form f;
     keys::enter(f.txtdocumento);
     EXPECT_TRUE(f.cbotipo->hasFocus());
-    f.cbotipo->setEditText(QStringLiteral("novo fornecedor"));
+    f.cbotipo->setEditText(u"novo fornecedor"_s);
     keys::enter(f.cbotipo);
     EXPECT_TRUE(f.txtdata->line_edit()->hasFocus());
     // The editable box did not take the typed text in as a new entry.
@@ -181,8 +159,8 @@ TEST(field_conduct, enter_moves_the_focus_on_in_tab_order_and_goes_no_further) {
     EXPECT_TRUE(f.txtvalor->hasFocus());
     keys::enter(f.txtvalor);
     EXPECT_TRUE(f.cboestatus->hasFocus());
-    keys::type(f.cboestatus, QStringLiteral("c")); // chosen, never typed
-    EXPECT_EQ(f.cboestatus->currentText(), QStringLiteral("Pendente"));
+    keys::type(f.cboestatus, u"c"_s); // chosen, never typed
+    EXPECT_EQ(f.cboestatus->currentText(), u"Pendente"_s);
     keys::enter(f.cboestatus);
     EXPECT_TRUE(f.cmdinserir->hasFocus());
     EXPECT_EQ(f.clicked, 0);
@@ -206,85 +184,52 @@ TEST(field_conduct, focus_paints_pale_yellow_and_leaving_white) {
 TEST(discard_keys, filter_boxes_cannot_be_typed_in) {
     QWidget window;
     auto* cbotipop = new QComboBox(&window);
-    cbotipop->addItems({QStringLiteral("Pendentes e Concluídos"), QStringLiteral("Pendentes"),
-                        QStringLiteral("Concluídos")});
+    cbotipop->addItems({u"Pendentes e Concluídos"_s, u"Pendentes"_s, u"Concluídos"_s});
     QComboBox* cbobancop = fruit_box(&window);
-    cbobancop->setEditText(QStringLiteral("Todos os bancos"));
+    cbobancop->setEditText(u"Todos os bancos"_s);
     discard_keys(cbotipop);
     discard_keys(cbobancop);
     keys::show_active(&window);
     cbotipop->setFocus();
-    keys::type(cbotipop, QStringLiteral("c"));
+    keys::type(cbotipop, u"c"_s);
     EXPECT_EQ(cbotipop->currentIndex(), 0);
     cbobancop->setFocus();
-    keys::type(cbobancop, QStringLiteral("x1"));
-    EXPECT_EQ(cbobancop->currentText(), QStringLiteral("Todos os bancos"));
+    keys::type(cbobancop, u"x1"_s);
+    EXPECT_EQ(cbobancop->currentText(), u"Todos os bancos"_s);
 }
-
-// Notes whether its window was topmost when each box came up.
-class watching_prompts : public platform::scripted_prompts {
-public:
-    QWidget* window = nullptr;
-    std::vector<bool> topmost_during;
-    int msgbox(const QString& text, int style, const QString& title) override {
-        topmost_during.push_back(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-        return scripted_prompts::msgbox(text, style, title);
-    }
-};
 
 TEST(sempretopo, switches_the_flag_and_keeps_the_window_visible) {
     QWidget form;
     keys::show_active(&form);
-    sempretopo(QStringLiteral("ativo"), &form);
+    sempretopo(u"ativo"_s, &form);
     EXPECT_TRUE(form.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     EXPECT_TRUE(form.isVisible());
-    sempretopo(QStringLiteral("qualquer"), &form);
+    sempretopo(u"qualquer"_s, &form);
     EXPECT_TRUE(form.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
 
     // A field of the window stands for the window.
     auto* field = new QLineEdit(&form);
-    sempretopo(QStringLiteral("desativo"), field);
+    sempretopo(u"desativo"_s, field);
     EXPECT_FALSE(form.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     EXPECT_TRUE(form.isVisible());
 
     QWidget hidden;
-    sempretopo(QStringLiteral("ativo"), &hidden);
+    sempretopo(u"ativo"_s, &hidden);
     EXPECT_TRUE(hidden.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     EXPECT_FALSE(hidden.isVisible());
-}
-
-TEST(sempretopo, a_message_box_comes_up_with_the_window_not_topmost) {
-    watching_prompts prompts;
-    platform::set_prompts(&prompts);
-    QWidget form;
-    prompts.window = &form;
-    keys::show_active(&form);
-    sempretopo(QStringLiteral("ativo"), &form);
-    prompts.answer(platform::answer_no);
-    const int answer = msgbox_over(&form, QStringLiteral("Deseja continuar?"),
-                                   platform::question + platform::yes_no, QStringLiteral("Info"));
-    platform::set_prompts(nullptr);
-
-    EXPECT_EQ(answer, platform::answer_no);
-    ASSERT_EQ(prompts.boxes().size(), 1u);
-    EXPECT_EQ(prompts.boxes()[0].title, QStringLiteral("Info"));
-    EXPECT_EQ(prompts.boxes()[0].style, platform::question + platform::yes_no);
-    EXPECT_EQ(prompts.topmost_during, std::vector<bool>{false});
-    EXPECT_TRUE(form.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    EXPECT_TRUE(form.isVisible());
 }
 
 TEST(vb_key_code, control_keys_stay_below_48_and_typing_keys_do_not) {
     const auto code = [](int key, const QString& text, Qt::KeyboardModifiers m = Qt::NoModifier) {
         return vb_key_code(QKeyEvent(QEvent::KeyPress, key, m, text));
     };
-    EXPECT_EQ(code(Qt::Key_Backspace, QStringLiteral("\b")), 8);
-    EXPECT_EQ(code(Qt::Key_Return, QStringLiteral("\r")), 13);
+    EXPECT_EQ(code(Qt::Key_Backspace, u"\b"_s), 8);
+    EXPECT_EQ(code(Qt::Key_Return, u"\r"_s), 13);
     EXPECT_EQ(code(Qt::Key_Delete, QString()), 46);
-    EXPECT_EQ(code(Qt::Key_Space, QStringLiteral(" ")), 32);
-    EXPECT_EQ(code(Qt::Key_C, QStringLiteral("c")), 67);
-    EXPECT_EQ(code(Qt::Key_5, QStringLiteral("5"), Qt::KeypadModifier), 101);
-    EXPECT_EQ(code(Qt::Key_Ccedilla, QStringLiteral("ç")), 186);
+    EXPECT_EQ(code(Qt::Key_Space, u" "_s), 32);
+    EXPECT_EQ(code(Qt::Key_C, u"c"_s), 67);
+    EXPECT_EQ(code(Qt::Key_5, u"5"_s, Qt::KeypadModifier), 101);
+    EXPECT_EQ(code(Qt::Key_Ccedilla, u"ç"_s), 186);
     EXPECT_EQ(vb_shift_state(QKeyEvent(QEvent::KeyPress, Qt::Key_C, Qt::AltModifier | Qt::ShiftModifier)), 5);
 }
 

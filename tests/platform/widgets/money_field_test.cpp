@@ -1,6 +1,7 @@
 #include "platform/widgets/money_field.h"
 
-#include "key_input.h"
+#include "support/golden.h"
+#include "support/key_input.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -8,6 +9,8 @@
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,109 +29,50 @@ struct value_window {
     void leave() { next->setFocus(); }
 };
 
-TEST(money_field, typing_then_leaving) {
-    struct row {
-        const char* keys;
-        const char* typed; // what the field holds before leaving
-        const char* shown; // after leaving
-    };
-    const row rows[] = {
-        {"1.234,56", "1.234,56", "1.234,56"},
-        {"1234,5", "1234,5", "1.234,50"},
-        {"12,3,4", "12,34", "12,34"}, // the second comma does nothing
-        {"", "", ""},                 // empty stays empty
-        {",5", ",5", "0,00"},         // a leading separator gives zero, not 0,50
-        {".75", ".75", "0,00"},
-        {"12a3b", "123", "123,00"}, // letters are discarded
-        {"R$ 7-", "7", "7,00"},
-        {"1000000", "1000000", "1.000.000,00"},
-    };
-    for (const row& r : rows) {
-        SCOPED_TRACE(r.keys);
+// "typed [keys]" (what the field holds, then what it shows after leaving), "entered [text]" (the text
+// on entering, then after leaving again), "pasted [before] [clipboard]", against
+// tests/data/platform/money_field.txt.
+TEST(money_field, typing_entering_and_pasting_as_the_baseline_gives_them) {
+    EXPECT_TRUE(support::matches_baseline(u"platform/money_field.txt"_s, [](const QString& line) {
+        const QStringList b = support::bracketed(line);
         value_window w;
-        keys::type(w.txtvalor, QString::fromUtf8(r.keys));
-        EXPECT_EQ(w.txtvalor->text(), QString::fromUtf8(r.typed));
-        w.leave();
-        EXPECT_EQ(w.txtvalor->text(), QString::fromUtf8(r.shown));
-    }
+        if (line.startsWith(u"typed"_s)) {
+            keys::type(w.txtvalor, b[0]);
+        } else if (line.startsWith(u"entered"_s)) {
+            w.leave();
+            w.txtvalor->setText(b[0]);
+            w.txtvalor->setFocus();
+        } else {
+            keys::type(w.txtvalor, b[0]);
+            QGuiApplication::clipboard()->setText(b[1]);
+            keys::press(w.txtvalor, Qt::Key_V, Qt::ControlModifier, u"\x16"_s);
+        }
+        QStringList out{w.txtvalor->text()};
+        // Enter goes on as Tab, and leaving formats
+        keys::enter(w.txtvalor);
+        out << (w.next->hasFocus() ? w.txtvalor->text() : u"(still in the field)"_s);
+        return out;
+    }));
 }
 
 TEST(money_field, backspace_and_a_comma_over_the_selected_comma) {
     value_window w;
-    keys::type(w.txtvalor, QStringLiteral("12,5"));
-    keys::press(w.txtvalor, Qt::Key_Backspace, Qt::NoModifier, QStringLiteral("\b"));
-    keys::press(w.txtvalor, Qt::Key_Backspace, Qt::NoModifier, QStringLiteral("\b"));
-    EXPECT_EQ(w.txtvalor->text(), QStringLiteral("12"));
-    keys::type(w.txtvalor, QStringLiteral(",7"));
-    EXPECT_EQ(w.txtvalor->text(), QStringLiteral("12,7"));
+    keys::type(w.txtvalor, u"12,5"_s);
+    keys::press(w.txtvalor, Qt::Key_Backspace, Qt::NoModifier, u"\b"_s);
+    keys::press(w.txtvalor, Qt::Key_Backspace, Qt::NoModifier, u"\b"_s);
+    EXPECT_EQ(w.txtvalor->text(), u"12"_s);
+    keys::type(w.txtvalor, u",7"_s);
+    EXPECT_EQ(w.txtvalor->text(), u"12,7"_s);
     // Typing over a selection that holds the comma may put a comma back.
     w.txtvalor->setSelection(2, 2);
-    keys::type(w.txtvalor, QStringLiteral(","));
-    EXPECT_EQ(w.txtvalor->text(), QStringLiteral("12,"));
-}
-
-TEST(money_field, entering_formats_and_unreadable_text_stays) {
-    struct row {
-        const char* set;
-        const char* on_entering;
-        const char* on_leaving;
-    };
-    const row rows[] = {
-        {"1234,5", "1.234,50", "1.234,50"},
-        {"abc", "abc", "abc"},
-        {"1,2.3", "1,2.3", "1,2.3"},
-        // beyond the currency range: shown as it is, never an error
-        {"99999999999999999999", "99999999999999999999", "99999999999999999999"},
-        {",5", "0,50", "0,50"},
-    };
-    for (const row& r : rows) {
-        SCOPED_TRACE(r.set);
-        value_window w;
-        w.leave();
-        w.txtvalor->setText(QString::fromUtf8(r.set));
-        w.txtvalor->setFocus();
-        EXPECT_EQ(w.txtvalor->text(), QString::fromUtf8(r.on_entering));
-        w.leave();
-        EXPECT_EQ(w.txtvalor->text(), QString::fromUtf8(r.on_leaving));
-    }
-}
-
-TEST(money_field, enter_moves_on_and_colours_follow_the_focus) {
-    value_window w;
-    EXPECT_EQ(w.txtvalor->palette().color(QPalette::Base), QColor(255, 255, 192));
-    keys::type(w.txtvalor, QStringLiteral("5"));
-    keys::enter(w.txtvalor);
-    EXPECT_TRUE(w.next->hasFocus());
-    EXPECT_EQ(w.txtvalor->text(), QStringLiteral("5,00"));
-    EXPECT_EQ(w.txtvalor->palette().color(QPalette::Base), QColor(Qt::white));
-}
-
-TEST(money_field, pasted_text_keeps_only_what_could_be_typed) {
-    struct row {
-        const char* before;
-        const char* clipboard;
-        const char* after;
-    };
-    const row rows[] = {
-        {"", "R$ 1.234,56", "1.234,56"},
-        {"", "abc", ""},
-        {"", "1,2,3", "1,23"},
-        {"12,5", ",75", "12,575"},
-    };
-    for (const row& r : rows) {
-        SCOPED_TRACE(r.clipboard);
-        value_window w;
-        keys::type(w.txtvalor, QString::fromUtf8(r.before));
-        QGuiApplication::clipboard()->setText(QString::fromUtf8(r.clipboard));
-        keys::press(w.txtvalor, Qt::Key_V, Qt::ControlModifier, QStringLiteral("\x16"));
-        EXPECT_EQ(w.txtvalor->text(), QString::fromUtf8(r.after));
-    }
+    keys::type(w.txtvalor, u","_s);
+    EXPECT_EQ(w.txtvalor->text(), u"12,"_s);
 }
 
 TEST(money_field, alt_keys_type_nothing) {
     value_window w;
     keys::alt(w.txtvalor, 'c');
-    keys::press(w.txtvalor, Qt::Key_1, Qt::AltModifier, QStringLiteral("1"));
+    keys::press(w.txtvalor, Qt::Key_1, Qt::AltModifier, u"1"_s);
     EXPECT_EQ(w.txtvalor->text(), QString());
 }
 

@@ -1,5 +1,5 @@
 #include "platform/autostart.h"
-#include "platform/widgets/key_input.h"
+#include "support/key_input.h"
 #include "platform/widgets/list_view.h"
 #include "shell/principal_api.h"
 #include "shell/ui/frmconfigsoft.h"
