@@ -43,7 +43,7 @@ public:
         if (it != seen_.constEnd()) return *it;
         QString shown = make(stored);
         // a column of unique texts stops growing the table
-        if (seen_.size() < limit) seen_.insert(std::move(stored), shown);
+        if (seen_.size() < limit) seen_.emplace(std::move(stored), shown);
         return shown;
     }
     QString get(QString&& stored) {

@@ -36,7 +36,7 @@ void recarregar_bancos() {
 }
 
 void register_action(const QString& name, action run) {
-    acoes().insert(name, std::move(run));
+    acoes()[name] = std::move(run);
 }
 
 const action* find_action(const QString& name) {

@@ -8,6 +8,7 @@
 #include <QPrinterInfo>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace platform {
@@ -71,7 +72,7 @@ QString printing_family(const QString& asked) {
 
 QFont twips_font(const QString& name, double points, bool bold) {
     QFont f(printing_family(name));
-    f.setPixelSize(std::max(1, int(points * 20 + 0.5)));
+    f.setPixelSize(std::max(1, int(std::lround(points * 20))));
     f.setBold(bold);
     f.setHintingPreference(QFont::PreferNoHinting);
     return f;

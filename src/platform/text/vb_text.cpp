@@ -55,10 +55,11 @@ decimal_text round_decimal(double v, int decimals) {
         digits.insert(0, std::size_t(-point), '0');
         point = 0;
     }
-    if (int(digits.size()) < point + decimals + 1)
-        digits.append(std::size_t(point + decimals + 1 - digits.size()), '0');
-    std::string kept = digits.substr(0, std::size_t(point + decimals));
-    const bool up = digits[std::size_t(point + decimals)] >= '5';
+    // point and decimals are not negative here
+    const std::size_t cut = std::size_t(point) + std::size_t(decimals);
+    if (digits.size() < cut + 1) digits.append(cut + 1 - digits.size(), '0');
+    std::string kept = digits.substr(0, cut);
+    const bool up = digits[cut] >= '5';
     if (up) {
         int i = int(kept.size()) - 1;
         while (i >= 0) {

@@ -287,7 +287,7 @@ atalhos::atalhos(QWidget* window) : QObject(window) {
 }
 
 atalhos& atalhos::add(QChar letter, std::function<void()> action) {
-    actions_.insert(int(letter.toUpper().unicode()), std::move(action));
+    actions_[int(letter.toUpper().unicode())] = std::move(action);
     return *this;
 }
 

@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace {
@@ -249,7 +250,7 @@ double list_view::pixels_to_twips(int px, const QWidget* w) {
 }
 
 int list_view::twips_to_pixels(double twips, const QWidget* w) {
-    return int(twips / twips_per_pixel(w) + 0.5);
+    return int(std::lround(twips / twips_per_pixel(w)));
 }
 
 void list_view::add_column(const QString& text, double width_twips, int tag, Qt::Alignment align) {
