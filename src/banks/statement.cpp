@@ -15,12 +15,7 @@ namespace {
 const QString dmy = QStringLiteral("dd/mm/yyyy");
 
 void somar(vb::currency& total, const QString& valor) {
-    const auto v = rounded_amount(valor);
-    if (!v) return;
-    try {
-        total += *v;
-    } catch (const vb::overflow_error&) {
-    }
+    if (const auto v = rounded_amount(valor)) vb::add_or_keep(total, *v);
 }
 
 // The rows of a statement into display rows; the caller's row maker reads the fields it knows.

@@ -1,6 +1,7 @@
 #include "shell/login.h"
 
 #include "platform/errors.h"
+#include "platform/prompts.h"
 #include "platform/sql/jet_dialect.h"
 #include "store/conexao.h"
 
@@ -46,6 +47,22 @@ resultado_login decidir_login(bool ha_usuarios, const QString& nome, const QStri
     if (tem_caractere_proibido(nome) || tem_caractere_proibido(senha))
         return resultado_login::caractere_proibido;
     return procurar() ? resultado_login::aceito : resultado_login::recusado;
+}
+
+aviso_login aviso_de(resultado_login r) {
+    switch (r) {
+    case resultado_login::sem_usuarios:
+        return {texto_sem_usuarios, platform::exclamation, false};
+    case resultado_login::campos_vazios:
+        return {texto_campos_login, platform::exclamation, true};
+    case resultado_login::caractere_proibido:
+        return {texto_login_invalido, platform::critical, false};
+    case resultado_login::recusado:
+        return {texto_login_invalido, platform::critical, true};
+    case resultado_login::aceito:
+        break;
+    }
+    return {};
 }
 
 } // namespace shell

@@ -8,6 +8,14 @@
 
 namespace shell {
 
+inline const QString titulo_login = QStringLiteral("Login");
+inline const QString texto_sem_usuarios = QStringLiteral(
+    "Não há nenhum usuário cadastrado, o software será iniciado para adicionar um usuário clique "
+    "no menu principal, gerenciador de login e depois em configurar usuários.");
+inline const QString texto_campos_login = QStringLiteral("Digite o nome de usuário e ou a senha!");
+inline const QString texto_login_invalido =
+    QStringLiteral("Usuário e ou senha inválido, por favor verifique os dados digitados!");
+
 // The seven characters that keep a name or password from changing the login statement.
 inline const QString caracteres_proibidos = QStringLiteral("'*%=-#;");
 
@@ -38,5 +46,14 @@ enum class resultado_login {
 // only then is procurar asked whether the user exists.
 resultado_login decidir_login(bool ha_usuarios, const QString& nome, const QString& senha,
                               const std::function<bool()>& procurar);
+
+// What a login window shows for an outcome (title titulo_login; nothing when the text is empty),
+// and whether it is put on top again: not after a forbidden character, nor once the user is in.
+struct aviso_login {
+    QString texto;
+    int estilo = 0; // platform/prompts.h
+    bool volta_ao_topo = false;
+};
+aviso_login aviso_de(resultado_login r);
 
 } // namespace shell

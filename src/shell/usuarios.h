@@ -10,14 +10,6 @@
 
 namespace shell {
 
-inline const QString titulo_login = QStringLiteral("Login");
-// frmlogin and frmloginsoft
-inline const QString texto_sem_usuarios = QStringLiteral(
-    "Não há nenhum usuário cadastrado, o software será iniciado para adicionar um usuário clique "
-    "no menu principal, gerenciador de login e depois em configurar usuários.");
-inline const QString texto_campos_login = QStringLiteral("Digite o nome de usuário e ou a senha!");
-inline const QString texto_login_invalido =
-    QStringLiteral("Usuário e ou senha inválido, por favor verifique os dados digitados!");
 // frmgerenciarlogin
 inline const QString texto_usuario_vazio =
     QStringLiteral("O campo nome de usuário e senha não podem estar vazios!");

@@ -3,11 +3,11 @@
 
 #include "analysis/cash_flow.h"
 #include "analysis/ui/frmfluxo.h"
-#include "support/window_fixture.h"
 #include "platform/print/printer.h"
+#include "support/golden.h"
+#include "support/window_fixture.h"
 
 #include <QFile>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 using analysis::pedido_fluxo;
@@ -18,26 +18,6 @@ static void PrintTo(const QString& s, std::ostream* os) {
 }
 
 namespace {
-
-QString read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
-
-QString golden(const QString& name) {
-    const QString g = read_file(QStringLiteral(QUINTARA_TEST_DATA_DIR "/analysis/") + name);
-    return g.isEmpty() ? u"missing golden file "_s + name : g;
-}
-
-QStringList pdf_lines(const QString& path) {
-    QProcess pr;
-    pr.start(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s});
-    pr.waitForFinished(60000);
-    QStringList out;
-    for (const QString& l : QString::fromUtf8(pr.readAllStandardOutput()).split(u'\n'))
-        if (!l.trimmed().isEmpty()) out << l.simplified();
-    return out;
-}
 
 TEST(cash_flow_statement, words_dates_and_bank_go_into_one_shape) {
     const struct {
@@ -168,7 +148,7 @@ TEST_F(cash_flow, expenses_rows_totals_texts_and_print) {
               u"Total de cadastros: 4"_s);
 
     f->cmdimprimir->click();
-    const QStringList impresso = pdf_lines(pdf_.path());
+    const QStringList impresso = support::pdf_lines(pdf_.path());
     EXPECT_TRUE(impresso.contains(u"FLUXO DE CAIXA - CONTAS A PAGAR"_s))
         << impresso.join(u'\n').toStdString();
     EXPECT_TRUE(impresso.contains(f->lbldata->text()));
@@ -257,10 +237,10 @@ TEST_F(cash_flow, general_view_balance_html_and_print) {
     ASSERT_EQ(prompts_.records().size(), 2u);
     EXPECT_EQ(prompts_.records()[0].title, u"Salvar relatório de fluxo de caixa em html"_s);
     EXPECT_EQ(prompts_.records()[0].filter, u"Arquivos HTML(*.html)|*.html"_s);
-    EXPECT_EQ(read_file(arquivo), golden(u"fluxo_geral.html"_s));
+    EXPECT_TRUE(support::file_matches_golden(u"analysis/fluxo_geral.html"_s, arquivo));
 
     f->cmdimprimir->click();
-    const QStringList impresso = pdf_lines(pdf_.path());
+    const QStringList impresso = support::pdf_lines(pdf_.path());
     const QStringList inicio = {
         u"FLUXO DE CAIXA - GERAL"_s,
         // the sub-title runs past the edge of the sheet

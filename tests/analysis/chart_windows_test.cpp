@@ -7,6 +7,7 @@
 #include "analysis_fixture.h"
 #include "platform/print/printer.h"
 #include "platform/widgets/date_field.h"
+#include "support/golden.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -42,13 +43,6 @@ protected:
     }
     platform::pdf_target pdf_{path(u"grafico.pdf"_s)};
 };
-
-QString pdf_text(const QString& pdf) {
-    QProcess p;
-    p.start(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s});
-    p.waitForFinished(60000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
 
 } // namespace
 
@@ -160,7 +154,7 @@ TEST_F(chart_windows, the_printed_page_holds_the_picture_then_the_figures) {
     EXPECT_GT(figura.width(), 600);
     g->cmdimprimir->click();
     EXPECT_FALSE(janela<frmgrafico>("frmgrafico"));
-    const QString texto = pdf_text(pdf_.path());
+    const QString texto = support::pdf_pages(pdf_.path()).join(QString());
     const QString regua(77, u'-');
     EXPECT_TRUE(texto.contains(regua + u"\n Estatísticas\n"_s + regua)) << qPrintable(texto);
     // (the text reader drops the blank that leads each line)

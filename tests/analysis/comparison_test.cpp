@@ -3,11 +3,11 @@
 
 #include "analysis/comparison.h"
 #include "analysis/ui/frmcomparacao.h"
-#include "support/window_fixture.h"
 #include "platform/print/printer.h"
+#include "support/golden.h"
+#include "support/window_fixture.h"
 
 #include <QFile>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -16,16 +16,6 @@ static void PrintTo(const QString& s, std::ostream* os) {
 }
 
 namespace {
-
-QString read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
-
-QString golden(const QString& name) {
-    const QString g = read_file(QStringLiteral(QUINTARA_TEST_DATA_DIR "/analysis/") + name);
-    return g.isEmpty() ? u"missing golden file "_s + name : g;
-}
 
 class comparison : public support::window_fixture {
 protected:
@@ -118,7 +108,7 @@ TEST_F(comparison, years_figures_differences_and_files) {
         ASSERT_EQ(prompts_.records().size(), 2u);
         EXPECT_EQ(prompts_.records()[0].title, QString::fromUtf8(s.titulo));
         EXPECT_EQ(prompts_.records()[0].filter, QString::fromUtf8(s.filtro));
-        EXPECT_EQ(read_file(arquivo), golden(QString::fromUtf8(s.arquivo))) << s.arquivo;
+        EXPECT_TRUE(support::file_matches_golden(u"analysis/"_s + QString::fromUtf8(s.arquivo), arquivo));
     }
 
     // the same year on both sides: nothing differs
@@ -154,15 +144,12 @@ TEST_F(comparison, months_label_slips_twin_and_print) {
     prompts_.answer_text(arquivo);
     r->cmdtxtmes->click();
     EXPECT_EQ(prompts_.records().at(0).title, u"Salvar comparação de receitas entre meses em txt"_s);
-    EXPECT_TRUE(read_file(arquivo).startsWith(u"Comparação de receitas entre anos\r\n"_s));
+    EXPECT_TRUE(QString::fromUtf8(support::read_file(arquivo))
+                    .startsWith(u"Comparação de receitas entre anos\r\n"_s));
 
     r->cmdimprimirmes->click();
-    QProcess pr;
-    pr.start(u"pdftotext"_s, {u"-layout"_s, pdf_.path(), u"-"_s});
-    pr.waitForFinished(60000);
-    QStringList impresso;
-    for (const QString& l : QString::fromUtf8(pr.readAllStandardOutput()).split(u'\n'))
-        if (!l.trimmed().isEmpty() && !l.contains(u"-----"_s)) impresso << l.simplified();
+    QStringList impresso = support::pdf_lines(pdf_.path());
+    impresso.removeIf([](const QString& l) { return l.contains(u"-----"_s); });
     const QStringList inicio = {u"Comparação de receitas entre meses"_s,
                                 u"Quintara organizando a sua vida financeira!"_s,
                                 u"Resumo do mês de: Março/2024"_s, u"Total de receitas cadastradas: 1"_s};

@@ -4,14 +4,13 @@
 #include "analysis/integrated_report.h"
 #include "analysis/ui/frmgeradorret.h"
 #include "analysis/ui/frmrelatorioint.h"
-#include "support/window_fixture.h"
 #include "platform/print/printer.h"
 #include "registers/ui/frmgeradorad.h"
+#include "support/golden.h"
+#include "support/window_fixture.h"
 
-#include <QFile>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QProcess>
 #include <QRadioButton>
 
 using namespace Qt::StringLiterals;
@@ -25,16 +24,6 @@ static void PrintTo(const QString& s, std::ostream* os) {
 namespace {
 
 const QDate primeiro(2026, 11, 1), ultimo(2026, 11, 30);
-
-QString golden(const QString& name) {
-    QFile f(QStringLiteral(QUINTARA_TEST_DATA_DIR "/analysis/") + name);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : u"missing golden file "_s + name;
-}
-
-QString read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
 
 TEST(integrated_statements, filters_become_clauses_and_account_lines) {
     filtros_pagina nada;
@@ -56,60 +45,19 @@ TEST(integrated_statements, filters_become_clauses_and_account_lines) {
                          true,
                          {u"Z"_s, u"W"_s},
                          estatus_filtro::concluido};
-    const struct {
-        analysis::clausula c;
-        const char* consulta;
-        const char* relato;
-    } cases[] = {
-        {analysis::despesas(nada),
-         "SELECT * FROM [pagar] WHERE [data] like ('%%') AND ([fornecedor] like ('%%')) AND ([origem] like "
-         "('%%')) AND ([descricao] like ('%%')) AND [estatus] like ('%%')",
-         "Datas incluídas: Todas, não filtrada.\r\nFornecedores Incluídos: Todos, não filtrado.\r\nConta "
-         "origem "
-         "incluídas: Todas, não filtrada.\r\nCentro de custos incluídos: Todos, não filtrado.\r\nEstatus: "
-         "Pendentes e Conluídos\r\n"},
+    const std::pair<const char*, analysis::clausula> cases[] = {
+        {"despesas, no filter", analysis::despesas(nada)},
         // the centres filter by their list alone, the box unticked
-        {analysis::despesas(pagar),
-         "SELECT * FROM [pagar] WHERE [vencimento] BETWEEN ('2026/11/01') AND ('2026/11/30') AND "
-         "([fornecedor] "
-         "like ('A') OR [fornecedor] like ('B')) AND ([origem] like ('Itaú')) AND ([descricao] like "
-         "('Aluguel')) AND [estatus] like ('Pendente')",
-         "Datas incluídas: 01/11/2026 à 30/11/2026\r\nFornecedores Incluídos: A, B\r\nConta origem "
-         "incluídas: "
-         "Itaú\r\nCentro de custos incluídos: Aluguel\r\nEstatus: Apenas pendentes\r\n"},
-        {analysis::receitas(receber),
-         "SELECT * FROM [receber] WHERE [data] like ('%%') AND ([cliente] like ('%%')) AND ([origem] like "
-         "('%%')) AND ([descricao] like ('%%')) AND [estatus] like ('Conluído')",
-         "Datas incluídas: Todas, não filtrada.\r\nclientes Incluídos: Todos, não filtrado.\r\nConta origem "
-         "incluídas: Todas, não filtrada.\r\nCentro de lucros incluídos: Todos, não filtrado.\r\nEstatus: "
-         "Apenas "
-         "conluídos\r\n"},
-        {analysis::despesas(vazia),
-         "SELECT * FROM [pagar] WHERE [data] like ('%%') AND ([fornecedor] like ) AND ([origem] like ('%%')) "
-         "AND "
-         "([descricao] like ('%%')) AND [estatus] like ('%%')",
-         "Datas incluídas: Todas, não filtrada.\r\n\r\nConta origem incluídas: Todas, não "
-         "filtrada.\r\nCentro de "
-         "custos incluídos: Todos, não filtrado.\r\nEstatus: Pendentes e Conluídos\r\n"},
-        {analysis::bancarios(nada),
-         "SELECT * FROM [bancario] WHERE [data] like '%%'  AND ([origem] like '%%') AND ([destino] like "
-         "'%%') AND "
-         "[estatus] like '%%'",
-         "Datas incluídas: Todas, não filtrada.\r\nConta origem incluídas: Todas, não filtrada.\r\nConta "
-         "destino "
-         "incluídas: Todas, não filtrado.\r\nEstatus: Pendentes e Conluídos\r\n"},
-        {analysis::bancarios(banco),
-         "SELECT * FROM [bancario] WHERE [data] BETWEEN '2026/11/01' AND '2026/11/30'  AND ([origem] like "
-         "'X' OR "
-         "[origem] like 'Y') AND ([destino] like 'Z' OR [destino] like ('W')) AND [estatus] like 'Conluído'",
-         "Datas incluídas: 01/11/2026 à 30/11/2026\r\nConta origem incluídas: X, Y\r\nContas destino "
-         "incluídas: "
-         "Z, W\r\nEstatus: Apenas conluídos\r\n"},
+        {"despesas, dates, two suppliers, one account, one centre, pending", analysis::despesas(pagar)},
+        {"receitas, completed", analysis::receitas(receber)},
+        {"despesas, a ticked box over an empty list", analysis::despesas(vazia)},
+        {"bancarios, no filter", analysis::bancarios(nada)},
+        {"bancarios, dates, two origins, two destinations, completed", analysis::bancarios(banco)},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.c.consulta, QString::fromUtf8(c.consulta));
-        EXPECT_EQ(c.c.relato, QString::fromUtf8(c.relato));
-    }
+    QString out;
+    for (const auto& [caso, c] : cases)
+        out += u"== %1\n%2\n%3\n"_s.arg(QLatin1String(caso), c.consulta, c.relato);
+    EXPECT_TRUE(support::matches_golden(u"analysis/integrated_statements.txt"_s, out));
 }
 
 class integrated : public support::window_fixture {
@@ -279,17 +227,12 @@ TEST_F(integrated, generator_window_chooser_result_files_and_print) {
         EXPECT_EQ(prompts_.records()[0].title, QString::fromUtf8(s.titulo));
         EXPECT_EQ(prompts_.records()[0].filter, QString::fromUtf8(s.filtro));
         EXPECT_EQ(prompts_.records()[1].title, u"Visualizar"_s);
-        EXPECT_EQ(read_file(arquivo), golden(QString::fromUtf8(s.arquivo))) << s.arquivo;
+        EXPECT_TRUE(support::file_matches_golden(u"analysis/"_s + QString::fromUtf8(s.arquivo), arquivo));
     }
 
     r->cmdimprimir->click();
-    QProcess pr;
-    pr.start(u"pdftotext"_s, {u"-layout"_s, pdf_.path(), u"-"_s});
-    pr.waitForFinished(60000);
-    QStringList impresso;
-    for (const QString& l : QString::fromUtf8(pr.readAllStandardOutput()).split(u'\n'))
-        if (!l.trimmed().isEmpty() && !l.contains(u"_____"_s) && !l.contains(u"-----"_s))
-            impresso << l.simplified();
+    QStringList impresso = support::pdf_lines(pdf_.path());
+    impresso.removeIf([](const QString& l) { return l.contains(u"_____"_s) || l.contains(u"-----"_s); });
     const QString pagar = r->relatorio().txtpagar.trimmed().replace(u"\r\n"_s, u"\n"_s);
     QStringList esperado_impresso = {
         u"RELATÓRIO INTEGRADO"_s, u"Contas a pagar, receber e movimento bancário"_s,

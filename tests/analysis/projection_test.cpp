@@ -3,11 +3,11 @@
 
 #include "analysis/projection.h"
 #include "analysis/ui/frmprojecao.h"
-#include "support/window_fixture.h"
 #include "platform/print/printer.h"
+#include "support/golden.h"
+#include "support/window_fixture.h"
 
 #include <QFile>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -16,16 +16,6 @@ static void PrintTo(const QString& s, std::ostream* os) {
 }
 
 namespace {
-
-QString read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
-
-QString golden(const QString& name) {
-    const QString g = read_file(QStringLiteral(QUINTARA_TEST_DATA_DIR "/analysis/") + name);
-    return g.isEmpty() ? u"missing golden file "_s + name : g;
-}
 
 QString linha(const QString& texto, const QString& inicio) {
     for (const QString& l : texto.split(u"\r\n"_s))
@@ -144,16 +134,12 @@ TEST_F(projection, expenses_panel_result_files_and_print) {
         ASSERT_EQ(prompts_.records().size(), 2u);
         EXPECT_EQ(prompts_.records()[0].title, QString::fromUtf8(s.titulo));
         EXPECT_EQ(prompts_.records()[0].filter, QString::fromUtf8(s.filtro));
-        EXPECT_EQ(read_file(arquivo), golden(QString::fromUtf8(s.arquivo))) << s.arquivo;
+        EXPECT_TRUE(support::file_matches_golden(u"analysis/"_s + QString::fromUtf8(s.arquivo), arquivo));
     }
 
     f->desp.cmdimprimir->click();
-    QProcess pr;
-    pr.start(u"pdftotext"_s, {u"-layout"_s, pdf_.path(), u"-"_s});
-    pr.waitForFinished(60000);
-    QStringList impresso;
-    for (const QString& l : QString::fromUtf8(pr.readAllStandardOutput()).split(u'\n'))
-        if (!l.trimmed().isEmpty() && !l.contains(u"-----"_s)) impresso << l.simplified();
+    QStringList impresso = support::pdf_lines(pdf_.path());
+    impresso.removeIf([](const QString& l) { return l.contains(u"-----"_s); });
     const QStringList inicio = {u"Projeções e Metas de despesas"_s,
                                 u"Quintara organizando a sua vida financeira!"_s, u"Projeção e Meta"_s,
                                 u"Valor da projeção: R$ 1.000,00"_s};

@@ -9,11 +9,11 @@
 #include "platform/print/printer.h"
 #include "platform/widgets/list_view.h"
 #include "store/config.h"
+#include "support/golden.h"
 
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 
@@ -33,11 +33,6 @@ protected:
     }
     platform::pdf_target pdf_{path(u"estatisticas.pdf"_s)};
 };
-
-QByteArray read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -69,15 +64,10 @@ TEST_F(register_windows, suppliers_get_one_row_each_with_counts_and_sums) {
     ASSERT_GE(prompts_.records().size(), 1u);
     EXPECT_EQ(prompts_.records()[0].title, u"Salvar estatísticas em txt"_s);
     EXPECT_EQ(prompts_.records()[0].filter, u"Arquivos de texto (*.txt)|*.txt"_s);
-    QFile golden(QStringLiteral(QUINTARA_TEST_DATA_DIR "/analysis/estatistica_fornecedor.txt"));
-    ASSERT_TRUE(golden.open(QIODevice::ReadOnly));
-    EXPECT_EQ(read_file(path(u"forn.txt"_s)), golden.readAll());
+    EXPECT_TRUE(support::file_matches_golden(u"analysis/estatistica_fornecedor.txt"_s, path(u"forn.txt"_s)));
 
     w->cmdimprimir->click();
-    QProcess p;
-    p.start(u"pdftotext"_s, {u"-layout"_s, pdf_.path(), u"-"_s});
-    p.waitForFinished(60000);
-    const QString texto = QString::fromUtf8(p.readAllStandardOutput());
+    const QString texto = support::pdf_pages(pdf_.path()).join(QString());
     EXPECT_TRUE(texto.contains(u"ESTATÍSTICAS DE FORNECEDORES"_s)) << qPrintable(texto);
     EXPECT_TRUE(texto.contains(u"Filtrado por: Todos os dados"_s));
     EXPECT_TRUE(texto.contains(u"Total de despesas: R$ 160,51"_s));

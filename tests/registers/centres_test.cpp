@@ -1,16 +1,16 @@
 // The cost and profit centre windows: adding, renaming into the entries, removing, the summary
 // with its files and print, and what closing refreshes; the chooser of the report filters.
 
-#include "support/window_fixture.h"
 #include "output/report_frame.h"
 #include "platform/print/printer.h"
 #include "registers/centres.h"
 #include "registers/ui/frmcentro.h"
 #include "registers/ui/frmgeradorad.h"
+#include "support/golden.h"
+#include "support/window_fixture.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -22,17 +22,6 @@ static void PrintTo(const QString& s, std::ostream* os) {
 }
 
 namespace {
-
-// Files compared as their UTF-8 text: equal texts are equal bytes, and a difference reads plainly.
-QString golden(const QString& name) {
-    QFile f(QStringLiteral(QUINTARA_TEST_DATA_DIR "/registers/") + name);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : u"missing golden file "_s + name;
-}
-
-QString read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
 
 class centres : public support::window_fixture {
 protected:
@@ -73,12 +62,6 @@ protected:
     }
     QStringList descricoes(const char* tabela) {
         return rows(u"SELECT descricao FROM %1 ORDER BY \"código\""_s.arg(QString::fromUtf8(tabela)));
-    }
-    QString pdf_text() {
-        QProcess pr;
-        pr.start(u"pdftotext"_s, {u"-layout"_s, pdf_.path(), u"-"_s});
-        pr.waitForFinished(60000);
-        return QString::fromUtf8(pr.readAllStandardOutput());
     }
     platform::pdf_target pdf_{path(u"centros.pdf"_s)};
 };
@@ -268,13 +251,13 @@ TEST_F(centres, summary_counts_pending_against_every_other_status) {
         EXPECT_EQ(prompts_.records()[0].filter,
                   *ext == 't' ? u"Arquivos de texto (*.txt)|*.txt"_s : u"Arquivos HTML (*.html)|*.html"_s);
         EXPECT_EQ(prompts_.records()[1].title, u"Visualizar"_s);
-        EXPECT_EQ(read_file(arquivo), golden(u"resumo_centro_custo."_s + QString::fromLatin1(ext))) << ext;
+        EXPECT_TRUE(support::file_matches_golden(
+            u"registers/resumo_centro_custo."_s + QString::fromLatin1(ext), arquivo));
     }
     w->cmdimprimir->click();
-    QStringList impresso;
-    for (const QString& l : pdf_text().split(u'\n'))
-        if (!l.trimmed().isEmpty())
-            impresso << (l.trimmed().startsWith(u"-----"_s) ? u"-"_s : l.simplified());
+    QStringList impresso = support::pdf_lines(pdf_.path());
+    for (QString& l : impresso)
+        if (l.startsWith(u"-----"_s)) l = u"-"_s;
     QStringList esperado = {u"Resumo de centro de custo"_s, QString(87, u'_')};
     for (const QStringList& r : cases[1].linhas)
         esperado << u"Centro de custo: "_s + r[1] << u"Pendentes: "_s + r[2] << u"Concluídas: "_s + r[3]

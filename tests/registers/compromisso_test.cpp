@@ -11,6 +11,7 @@
 #include "registers/ui/frmretcompromisso.h"
 #include "shell/principal_api.h"
 #include "support/fixture.h"
+#include "support/golden.h"
 
 #include <QAction>
 #include <QApplication>
@@ -21,7 +22,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
-#include <QProcess>
 #include <QPushButton>
 
 #include <gtest/gtest.h>
@@ -60,20 +60,6 @@ protected:
     static void alt(QWidget* w, Qt::Key k) {
         QKeyEvent e(QEvent::KeyPress, k, Qt::AltModifier);
         QApplication::sendEvent(w, &e);
-    }
-    // A file compared byte for byte with its golden; QUINTARA_WRITE_GOLDEN=1 rewrites the golden.
-    static void golden(const QString& name, const QString& written) {
-        QFile out(written);
-        out.open(QIODevice::ReadOnly);
-        const QByteArray bytes = out.readAll();
-        QFile ref(QStringLiteral(QUINTARA_TEST_DATA_DIR "/registers/") + name);
-        if (qEnvironmentVariableIsSet("QUINTARA_WRITE_GOLDEN") && ref.open(QIODevice::WriteOnly)) {
-            ref.write(bytes);
-            ref.close();
-        }
-        const char* how = "QUINTARA_WRITE_GOLDEN=1 ctest -R compromissos rewrites ";
-        ASSERT_TRUE(ref.open(QIODevice::ReadOnly)) << how << qPrintable(name);
-        EXPECT_EQ(bytes, ref.readAll()) << how << qPrintable(name);
     }
     platform::pdf_target pdf_{QString()};
 };
@@ -253,16 +239,10 @@ TEST_F(compromissos, exports_and_print_of_the_list) {
         EXPECT_EQ(prompts_.records()[0].title, s.titulo);
         EXPECT_EQ(prompts_.records()[0].filter, s.filtro);
         EXPECT_EQ(prompts_.records()[1].title, u"Visualizar"_s);
-        golden(s.arquivo, path(s.arquivo));
+        EXPECT_TRUE(support::file_matches_golden(u"registers/"_s + s.arquivo, path(s.arquivo)));
     }
     alt(w, Qt::Key_I);
-    QProcess p;
-    p.start(u"pdftotext"_s, {u"-layout"_s, pdf_.path(), u"-"_s});
-    ASSERT_TRUE(p.waitForFinished(60000));
-    const QStringList lines = QString::fromUtf8(p.readAllStandardOutput()).split(u'\n');
-    QStringList texto;
-    for (const QString& l : lines)
-        if (!l.simplified().isEmpty()) texto << l.simplified();
+    const QStringList texto = support::pdf_lines(pdf_.path());
     EXPECT_EQ(texto.mid(0, 5),
               (QStringList{u"LISTA DE COMPROMISSO"_s, u"Filtrado por: Exibindo todos os compromissos"_s,
                            u"Data Hora Título do compromisso Local do compromisso Estatus"_s,
@@ -306,7 +286,7 @@ TEST_F(compromissos, the_three_report_items_and_the_calendar) {
     frmretcompromisso* w = frmretcompromisso::carregada();
     prompts_.answer_text(path(u"relatorio.txt"_s));
     w->botao(u"txt"_s)->trigger();
-    golden(u"relatorio.txt"_s, path(u"relatorio.txt"_s));
+    EXPECT_TRUE(support::file_matches_golden(u"registers/relatorio.txt"_s, path(u"relatorio.txt"_s)));
     ASSERT_TRUE(shell::run_action(u"mnucal"_s));
     frmcalendario* cal = nullptr;
     for (QWidget* t : QApplication::topLevelWidgets())

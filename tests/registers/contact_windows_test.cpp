@@ -2,18 +2,18 @@
 // add, edit and remove, the quick add from the entry windows, export and print, the history.
 
 #include "entries/ui/frmmultiplos.h"
-#include "support/window_fixture.h"
 #include "platform/print/printer.h"
-#include "support/key_input.h"
 #include "registers/ui/frmcadcontato.h"
 #include "registers/ui/frmcontatos.h"
 #include "registers/ui/frmfincontato.h"
 #include "shell/principal_api.h"
+#include "support/golden.h"
+#include "support/key_input.h"
+#include "support/window_fixture.h"
 
 #include <QAction>
 #include <QFile>
 #include <QMenu>
-#include <QProcess>
 #include <QRadioButton>
 #include <QToolBar>
 
@@ -21,13 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 using registers::contato;
 
 namespace {
-
-QString pdf_text(const QString& pdf) {
-    QProcess p;
-    p.start(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s});
-    p.waitForFinished(60000);
-    return QString::fromUtf8(p.readAllStandardOutput()).simplified();
-}
 
 class contact_windows : public support::window_fixture {
 protected:
@@ -247,7 +240,7 @@ TEST_F(contact_windows, export_print_and_the_shell) {
     EXPECT_TRUE(html.contains(u"<td nowrap>Beta&nbsp;</td>"_s));
 
     keys::alt(f->lstcontato, 'I');
-    const QString impresso = pdf_text(pdf_.path());
+    const QString impresso = support::pdf_lines(pdf_.path()).join(u' ');
     EXPECT_TRUE(impresso.contains(u"LISTA DE FORNECEDORES"_s)) << impresso.toStdString();
     EXPECT_TRUE(impresso.contains(u"Filtrados por: Exibindo todos os clientes"_s));
     EXPECT_TRUE(impresso.contains(u"Total de cadastros: 2"_s));
@@ -304,7 +297,7 @@ TEST_F(contact_windows, history_of_a_client) {
     EXPECT_TRUE(linhas.contains(h->rotulo->text()));
 
     h->cmdimprimir->click();
-    const QString impresso = pdf_text(pdf_.path());
+    const QString impresso = support::pdf_lines(pdf_.path()).join(u' ');
     EXPECT_TRUE(impresso.contains(u"HISTÓRICO FINANCEIRO DE CLIENTE"_s)) << impresso.toStdString();
     EXPECT_TRUE(impresso.contains(u"Estatus: Exibindo todos os dados"_s));
     EXPECT_TRUE(impresso.contains(u"Data de nascimento: 02/01/1980"_s));

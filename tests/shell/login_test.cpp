@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// "<users|no-users> [nome] [senha] <found|not-found>": the outcome, and whether it looked the user
-// up, against tests/data/shell/login.txt.
+// "<users|no-users> [nome] [senha] <found|not-found>": the outcome, whether it looked the user up,
+// and what the login windows show for it, against tests/data/shell/login.txt.
 TEST(login, the_rule_and_its_order) {
     EXPECT_TRUE(support::matches_baseline(u"shell/login.txt"_s, [](const QString& line) {
         const QStringList b = support::bracketed(line);
@@ -18,7 +18,11 @@ TEST(login, the_rule_and_its_order) {
                                             [&] { return procurou = true, line.endsWith(u" found"_s); });
         static const QStringList nomes{u"sem_usuarios"_s, u"campos_vazios"_s, u"caractere_proibido"_s,
                                        u"aceito"_s, u"recusado"_s};
-        return QStringList{nomes[int(r)] + (procurou ? u", looked up"_s : QString())};
+        const shell::aviso_login a = shell::aviso_de(r);
+        return QStringList{nomes[int(r)] + (procurou ? u", looked up"_s : QString()) +
+                               (a.volta_ao_topo ? u", on top again"_s : QString()),
+                           a.texto.isEmpty() ? u"(no message)"_s
+                                             : u"%1 (style %2)"_s.arg(a.texto).arg(a.estilo)};
     }));
 }
 

@@ -88,6 +88,15 @@ QString first_difference(const QString& want, const QString& got) {
     return compare(name, out.toUtf8());
 }
 
+::testing::AssertionResult file_matches_golden(const QString& name, const QString& path) {
+    return compare(name, read_file(path));
+}
+
+QByteArray read_file(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
 QStringList bracketed(const QString& line) {
     QStringList out;
     for (qsizetype open = line.indexOf(QLatin1Char('[')); open >= 0;) {
@@ -106,6 +115,14 @@ QStringList pdf_pages(const QString& pdf) {
     QStringList pages = QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\f'));
     if (!pages.isEmpty() && pages.last().trimmed().isEmpty()) pages.removeLast();
     return pages;
+}
+
+QStringList pdf_lines(const QString& pdf) {
+    QStringList out;
+    for (const QString& page : pdf_pages(pdf))
+        for (const QString& l : page.split(QLatin1Char('\n')))
+            if (!l.trimmed().isEmpty()) out << l.simplified();
+    return out;
 }
 
 } // namespace support

@@ -25,7 +25,15 @@ namespace support {
 // blanks show.
 QStringList bracketed(const QString& line);
 
+// A written file against tests/data/<name>, byte for byte.
+::testing::AssertionResult file_matches_golden(const QString& name, const QString& path);
+
+// The bytes of a file; empty when it cannot be read.
+QByteArray read_file(const QString& path);
+
 // The pages of a PDF as pdftotext lays them out.
 QStringList pdf_pages(const QString& pdf);
+// Its lines that are not blank, blanks run together ("simplified"), every page in turn.
+QStringList pdf_lines(const QString& pdf);
 
 } // namespace support

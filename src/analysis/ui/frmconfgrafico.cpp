@@ -119,7 +119,7 @@ frmconfgrafico* frmconfgrafico::instance() {
 }
 
 frmconfgrafico* frmconfgrafico::aberto() {
-    return the_window && !is_unloaded(the_window) ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmconfgrafico::frmconfgrafico() : QWidget(nullptr, Qt::Window) {

@@ -74,7 +74,7 @@ frmconfrelatorio* frmconfrelatorio::instance() {
 }
 
 frmconfrelatorio* frmconfrelatorio::aberto() {
-    return the_window && !is_unloaded(the_window) ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmconfrelatorio::frmconfrelatorio() : QWidget(nullptr, Qt::Window) {

@@ -28,7 +28,7 @@ frmestatisticas* frmestatisticas::instance() {
 }
 
 frmestatisticas* frmestatisticas::aberto() {
-    return the_window && !is_unloaded(the_window) ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmestatisticas::frmestatisticas() : QWidget(nullptr, Qt::Window) {

@@ -38,7 +38,7 @@ frmestforncli* frmestforncli::instance() {
 }
 
 frmestforncli* frmestforncli::aberto() {
-    return the_window && !is_unloaded(the_window) ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 // the caption keeps its double "s"

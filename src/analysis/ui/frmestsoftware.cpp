@@ -35,7 +35,7 @@ frmestsoftware* frmestsoftware::instance() {
 }
 
 frmestsoftware* frmestsoftware::aberto() {
-    return the_window && !is_unloaded(the_window) ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmestsoftware::frmestsoftware() : QWidget(nullptr, Qt::Window) {

@@ -40,7 +40,7 @@ frmgrafico* frmgrafico::instance() {
 }
 
 frmgrafico* frmgrafico::aberto() {
-    return the_window && !is_unloaded(the_window) ? the_window.data() : nullptr;
+    return loaded_window(the_window);
 }
 
 frmgrafico::frmgrafico() : QWidget(nullptr, Qt::Window) {

@@ -81,7 +81,7 @@ QIcon amostra(std::uint32_t bgr) {
 
 } // namespace
 
-frmconfigsoft* frmconfigsoft::aberta() {
+frmconfigsoft* frmconfigsoft::aberto() {
     return aberta_.data();
 }
 

@@ -21,7 +21,7 @@ class frmconfigsoft : public QWidget {
     Q_OBJECT
 public:
     static frmconfigsoft* mostrar();
-    static frmconfigsoft* aberta();
+    static frmconfigsoft* aberto();
 
     // The machine's screen fonts.
     void pegarfontes();

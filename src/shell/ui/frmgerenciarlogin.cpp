@@ -34,7 +34,7 @@ frmgerenciarlogin* frmgerenciarlogin::mostrar() {
     return the_window;
 }
 
-frmgerenciarlogin* frmgerenciarlogin::carregada() {
+frmgerenciarlogin* frmgerenciarlogin::aberto() {
     return the_window.data();
 }
 

@@ -16,7 +16,7 @@ class frmgerenciarlogin : public QWidget {
 public:
     // Opens the window (or raises the one open) and runs its opening.
     static frmgerenciarlogin* mostrar();
-    static frmgerenciarlogin* carregada();
+    static frmgerenciarlogin* aberto();
     ~frmgerenciarlogin() override;
 
     // The opening: the option into chkusuario, the users into lstusuarios.

@@ -128,28 +128,11 @@ void frmlogin::cmdentrar_click() {
         sempretopo(QStringLiteral("ativo"), this);
         return;
     }
-    switch (r) {
-    case resultado_login::sem_usuarios:
-        platform::msgbox(shell::texto_sem_usuarios, platform::exclamation, shell::titulo_login);
-        entrar_no_principal();
-        return;
-    case resultado_login::campos_vazios:
-        platform::msgbox(shell::texto_campos_login, platform::exclamation, shell::titulo_login);
-        sempretopo(QStringLiteral("ativo"), this);
-        return;
-    case resultado_login::caractere_proibido:
-        // this refusal leaves the window where it is
-        platform::msgbox(shell::texto_login_invalido, platform::critical, shell::titulo_login);
-        return;
-    case resultado_login::aceito:
-        entrar_no_principal();
-        store::fecharconexao();
-        return;
-    case resultado_login::recusado:
-        platform::msgbox(shell::texto_login_invalido, platform::critical, shell::titulo_login);
-        sempretopo(QStringLiteral("ativo"), this);
-        return;
-    }
+    const shell::aviso_login a = shell::aviso_de(r);
+    if (!a.texto.isEmpty()) platform::msgbox(a.texto, a.estilo, shell::titulo_login);
+    if (a.volta_ao_topo) sempretopo(QStringLiteral("ativo"), this);
+    if (r == resultado_login::sem_usuarios || r == resultado_login::aceito) entrar_no_principal();
+    if (r == resultado_login::aceito) store::fecharconexao();
 }
 
 void frmlogin::cmdcancelar_click() {

@@ -28,7 +28,7 @@ frmloginsoft* frmloginsoft::instance() {
     return the_lock;
 }
 
-frmloginsoft* frmloginsoft::carregada() {
+frmloginsoft* frmloginsoft::aberto() {
     return the_lock.data();
 }
 
@@ -131,30 +131,17 @@ void frmloginsoft::cmdentrar_click() {
         sempretopo(QStringLiteral("ativo"), this);
         return;
     }
-    switch (r) {
-    case resultado_login::sem_usuarios:
-        platform::msgbox(shell::texto_sem_usuarios, platform::exclamation, shell::titulo_login);
+    const shell::aviso_login a = shell::aviso_de(r);
+    if (!a.texto.isEmpty()) platform::msgbox(a.texto, a.estilo, shell::titulo_login);
+    if (a.volta_ao_topo) sempretopo(QStringLiteral("ativo"), this);
+    if (r == resultado_login::sem_usuarios) {
         mostrar_principal();
         descarregar();
-        return;
-    case resultado_login::campos_vazios:
-        platform::msgbox(shell::texto_campos_login, platform::exclamation, shell::titulo_login);
-        sempretopo(QStringLiteral("ativo"), this);
-        return;
-    case resultado_login::caractere_proibido:
-        // as at the first login, this refusal leaves the window where it is
-        platform::msgbox(shell::texto_login_invalido, platform::critical, shell::titulo_login);
-        return;
-    case resultado_login::aceito:
+    } else if (r == resultado_login::aceito) {
         txtsenha->clear();
         mostrar_principal();
         hide();
         store::fecharconexao();
-        return;
-    case resultado_login::recusado:
-        platform::msgbox(shell::texto_login_invalido, platform::critical, shell::titulo_login);
-        sempretopo(QStringLiteral("ativo"), this);
-        return;
     }
 }
 

@@ -16,7 +16,7 @@ public:
     // The one lock window, created at its first use.
     static frmloginsoft* instance();
     // The loaded window, if any.
-    static frmloginsoft* carregada();
+    static frmloginsoft* aberto();
     // Unloads it, if loaded, without ending anything.
     static void descarregar();
     ~frmloginsoft() override;

@@ -2,9 +2,9 @@
 // and the menu items that act on this window itself.
 #include "platform/autostart.h"
 #include "platform/prompts.h"
-#include "shell/usuarios.h"
 #include "shell/main_menu.h"
 #include "shell/ui/frmprincipal.h"
+#include "shell/usuarios.h"
 #include "store/config.h"
 #include "store/program_dir.h"
 

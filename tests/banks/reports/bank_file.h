@@ -2,9 +2,9 @@
 // A data file with accounts and rows written straight into it, for the account reports' tests.
 
 #include "support/fixture.h"
+#include "support/golden.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QPointer>
 #include <QProcess>
 #include <QRegularExpression>
@@ -51,27 +51,6 @@ protected:
 
     static QString quoted(QString s) { return s.replace(QLatin1Char('\''), QStringLiteral("''")); }
 };
-
-inline QByteArray golden(const QString& name) {
-    QFile f(QStringLiteral(QUINTARA_TEST_DATA_DIR "/banks/") + name);
-    if (!f.open(QIODevice::ReadOnly)) return "missing golden file " + name.toUtf8();
-    return f.readAll();
-}
-
-inline QByteArray read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-// The pages of a printed PDF as pdftotext lays them out, one string per page.
-inline QStringList pdf_pages(const QString& pdf) {
-    QProcess p;
-    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
-    if (!p.waitForFinished(60000) || p.exitCode() != 0) return {};
-    QStringList pages = QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\f'));
-    if (!pages.isEmpty() && pages.last().trimmed().isEmpty()) pages.removeLast();
-    return pages;
-}
 
 // The words of a printed PDF with their page and top-left corner in points.
 struct pdf_word {

@@ -156,8 +156,8 @@ TEST_F(statistics, the_files_and_the_print_from_the_window) {
     prompts_.answer_text(path(u"est.html"_s));
     prompts_.answer(platform::answer_no);
     w->cmdhtml->click();
-    EXPECT_EQ(testing_banks::read_file(path(u"est.txt"_s)), testing_banks::golden(u"estatisticas.txt"_s));
-    EXPECT_EQ(testing_banks::read_file(path(u"est.html"_s)), testing_banks::golden(u"estatisticas.html"_s));
+    EXPECT_TRUE(support::file_matches_golden(u"banks/estatisticas.txt"_s, path(u"est.txt"_s)));
+    EXPECT_TRUE(support::file_matches_golden(u"banks/estatisticas.html"_s, path(u"est.html"_s)));
     const auto& r = prompts_.records();
     ASSERT_EQ(r.size(), 4u);
     EXPECT_EQ(r[0].title, u"Salvar estatística em txt"_s);
@@ -170,7 +170,7 @@ TEST_F(statistics, the_files_and_the_print_from_the_window) {
     platform::set_print_destination(&pdf);
     w->cmdimprimir->click();
     platform::set_print_destination(nullptr);
-    const QString texto = testing_banks::pdf_pages(path(u"est.pdf"_s)).join(u'\f').simplified();
+    const QString texto = support::pdf_pages(path(u"est.pdf"_s)).join(u'\f').simplified();
     for (
         const QString& esperado :
         {u"Caixa/Banco: Banco do Brasil Saldo(no período): R$ 890,25 Informações: Conta corrente "

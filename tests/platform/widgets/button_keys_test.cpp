@@ -1,5 +1,5 @@
-#include "support/key_input.h"
 #include "platform/widgets/button_keys.h"
+#include "support/key_input.h"
 
 #include <QCheckBox>
 #include <QPushButton>

@@ -1,5 +1,4 @@
 #include "platform/autostart.h"
-#include "support/key_input.h"
 #include "platform/widgets/list_view.h"
 #include "shell/principal_api.h"
 #include "shell/ui/frmconfigsoft.h"
@@ -8,6 +7,7 @@
 #include "store/conexao.h"
 #include "store/config.h"
 #include "support/fixture.h"
+#include "support/key_input.h"
 
 #include <QAction>
 #include <QApplication>
@@ -30,7 +30,7 @@ protected:
         store::save_setting(store::secao_config, QStringLiteral("AlertasVencimento"), QStringLiteral("0"));
     }
     void TearDown() override {
-        if (frmconfigsoft* w = frmconfigsoft::aberta()) delete w;
+        if (frmconfigsoft* w = frmconfigsoft::aberto()) delete w;
         if (frmprincipal::exists()) delete frmprincipal::instance();
         frmlogin::descarregar();
         QCoreApplication::processEvents();
@@ -38,7 +38,7 @@ protected:
     }
     frmconfigsoft* abrir() {
         shell::run_action(QStringLiteral("mnuconfigsoft"));
-        return frmconfigsoft::aberta();
+        return frmconfigsoft::aberto();
     }
     static QString s(const QString& secao, const char* chave) {
         return store::setting(secao, QString::fromUtf8(chave), QStringLiteral("<nada>"));
