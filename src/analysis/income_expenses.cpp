@@ -25,10 +25,7 @@ vb::currency soma(const QString& statement) {
         rs.open(statement, store::conexao, sql::keyset, sql::read_only);
         const int valor = rs.index_of(store::coluna::valor);
         for (; !rs.eof(); rs.move_next()) {
-            try {
-                if (const auto v = vb::ccur(vb::reformat_money_text(rs.text(valor)))) total += *v;
-            } catch (const vb::overflow_error&) {
-            }
+            if (const auto v = vb::ccur(vb::reformat_money_text(rs.text(valor)))) vb::add_or_keep(total, *v);
         }
     });
     return total;
@@ -113,11 +110,9 @@ relacao_resultado relacao(const relacao_cabecas& c, const relacao_hooks& hooks) 
 QString relacao_total(const std::vector<QStringList>& linhas) {
     vb::currency despesas, receitas;
     for (const QStringList& l : linhas) {
-        try {
-            despesas += vb::money_of(l.value(1));
-            receitas += vb::money_of(l.value(2));
-        } catch (const vb::overflow_error&) {
-        }
+        // a row whose expense overflows adds nothing of its income either
+        if (vb::add_or_keep(despesas, vb::money_of(l.value(1))))
+            vb::add_or_keep(receitas, vb::money_of(l.value(2)));
     }
     return QStringLiteral("Total de despesas R$ ") + vb::format_money(despesas) +
            QStringLiteral(" - Total de lucros R$ ") + vb::format_money(receitas) +

@@ -129,11 +129,7 @@ QString valor_texto(const QString& stored) {
 }
 
 void somar(vb::currency& total, const QString& valor) {
-    try {
-        total += vb::money_of(valor);
-    } catch (const vb::overflow_error&) {
-        // errors ignored: the sum keeps what it had
-    }
+    vb::add_or_keep(total, vb::money_of(valor));
 }
 
 // "R$ 1.234,56" in one allocation.

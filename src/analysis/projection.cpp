@@ -102,10 +102,7 @@ resultado_projecao verificar_projecao(const lado_projecao& l, const QString& mes
             for (; !r.eof(); r.move_next()) {
                 const std::optional<vb::currency> v = vb::ccur(i < 0 ? QString() : r.text(i));
                 if (!v) continue; // an amount that does not read is skipped
-                try {
-                    total += *v;
-                } catch (const vb::overflow_error&) {
-                }
+                vb::add_or_keep(total, *v);
             }
         });
     }

@@ -57,19 +57,7 @@ void line(QIODevice& out, const QString& s) {
 // What an amount adds to a sum: its text through "##,##0.00" read back, so each addend is rounded
 // to the cent. An amount that cannot be read adds nothing.
 vb::currency parcela(const QString& valor) {
-    try {
-        return vb::money_of(vb::reformat_money_text(valor));
-    } catch (const std::exception&) {
-        return {};
-    }
-}
-
-// A sum past the currency's range keeps what it had.
-void somar(vb::currency& a, vb::currency b) {
-    try {
-        a += b;
-    } catch (const vb::overflow_error&) {
-    }
+    return vb::money_of(vb::reformat_money_text(valor));
 }
 
 } // namespace
@@ -199,22 +187,22 @@ resumo calcular_resumo(centro c, const QDate& de, const QDate& ate, const std::f
                 const vb::currency v = parcela(rs.text(i_valor));
                 if (rs.text(i_estatus) == store::palavra::pendente) {
                     ++n_pendentes;
-                    somar(pendentes, v);
+                    vb::add_or_keep(pendentes, v);
                 } else {
                     ++n_concluidas;
-                    somar(concluidas, v);
+                    vb::add_or_keep(concluidas, v);
                 }
             }
         } catch (const std::exception&) {
             // errors ignored: the centre shows what was counted before the failure
         }
         vb::currency ambos = pendentes;
-        somar(ambos, concluidas);
+        vb::add_or_keep(ambos, concluidas);
         r.linhas.push_back({QString::number(numero), nome, celula(n_pendentes, pendentes),
                             celula(n_concluidas, concluidas), celula(n_pendentes + n_concluidas, ambos)});
-        somar(r.total, ambos);
-        somar(r.concluido, concluidas);
-        somar(r.pendente, pendentes);
+        vb::add_or_keep(r.total, ambos);
+        vb::add_or_keep(r.concluido, concluidas);
+        vb::add_or_keep(r.pendente, pendentes);
         if (passo) passo(numero);
     }
     r.geral = texto_geral(c, r.total, r.concluido, r.pendente);

@@ -2,6 +2,7 @@
 #include "mail_fixture.h"
 #include "platform/widgets/date_field.h"
 #include "store/config.h"
+#include "support/golden.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -22,9 +23,6 @@ protected:
         const QString arquivo = tmp_.filePath(QStringLiteral("a.txt"));
         EXPECT_TRUE(mail::escrever_anexo(arquivo, p, t));
         return ler_arquivo(arquivo);
-    }
-    static QString golden() {
-        return ler_arquivo(QStringLiteral(QUINTARA_TEST_DATA_DIR "/mail/relatorio_via_email.txt"));
     }
     QTemporaryDir tmp_;
 };
@@ -53,7 +51,8 @@ TEST_F(via_email, the_dates_then_the_blank_fields_stop_a_send) {
 
 TEST_F(via_email, the_attachment_holds_the_ticked_ledgers_and_loses_the_filtered_sections) {
     pagina todos;
-    EXPECT_EQ(anexo(todos, tipo_ret::todos), golden());
+    EXPECT_TRUE(support::matches_golden(QStringLiteral("mail/relatorio_via_email.txt"),
+                                        anexo(todos, tipo_ret::todos)));
 
     const QString primeira = QStringLiteral("RELATÓRIO ENVIADO POR E-MAIL\r\n\r\n");
     const QString ultimas =
