@@ -12,4 +12,9 @@ void save_setting(const QString& secao, const QString& chave, const QString& val
     platform::save_setting(app_title, secao, chave, valor);
 }
 
+QString endereco_boleto() {
+    return setting(secao_config, QStringLiteral("EnderecoBoleto"),
+                   QStringLiteral("https://www.quintara.com.br"));
+}
+
 } // namespace store

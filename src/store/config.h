@@ -10,4 +10,8 @@ namespace store {
 QString setting(const QString& secao, const QString& chave, const QString& padrao);
 void save_setting(const QString& secao, const QString& chave, const QString& valor);
 
+// The site that makes the bank-slip pages (key "EnderecoBoleto" of "Configurações"): scheme and
+// host, the page's path follows it.
+QString endereco_boleto();
+
 } // namespace store

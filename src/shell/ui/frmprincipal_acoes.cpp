@@ -29,8 +29,7 @@ namespace {
 
 using rotina = void (frmprincipal::*)();
 
-// The routines this program has, by name. The receipt comes with its window (frmrecibo): until
-// then its controls stay disabled.
+// The routines this program has, by name. The receipt's are registered with its window.
 const struct {
     const char* nome;
     rotina r;
@@ -69,7 +68,17 @@ bool existe(const QString& nome) {
     return rotina_de(nome) != nullptr || shell::find_action(nome) != nullptr;
 }
 
+// The receipt reads the selected row by its code: 0 when its list has none.
+void selecionar_recibo(frmprincipal* p, const QString& nome) {
+    const bool pagar = nome == QLatin1String("recibopagar");
+    if (!pagar && nome != QLatin1String("reciboreceber")) return;
+    const list_view* l = pagar ? p->lstpagar : p->lstreceber;
+    const int row = l->selected_row();
+    p->codigoselecionado = row >= 0 && row < l->row_count() ? vb::val(l->text(row, 0)) : 0;
+}
+
 void executar(frmprincipal* p, const QString& nome) {
+    selecionar_recibo(p, nome);
     if (const rotina r = rotina_de(nome))
         ignorando([&] { (p->*r)(); });
     else

@@ -93,6 +93,39 @@ TEST(money_field, entering_formats_and_unreadable_text_stays) {
     }
 }
 
+TEST(money_field, the_prefixed_forms_of_the_receipt_and_the_service_order) {
+    struct row {
+        const char* typed;
+        bool empty_to_zero;
+        const char* on_leaving;
+    };
+    const row rows[] = {
+        {"1234,5", true, "R$ 1.234,50"},
+        {"", true, "R$ 00,00"},
+        {"", false, ""},
+        {",5", false, "R$ 00,00"}, // the leading separator wins over the amount
+        {"abc", true, "abc"},
+        {"99999999999999999999", true, "99999999999999999999"},
+    };
+    for (const row& r : rows) {
+        SCOPED_TRACE(r.typed);
+        value_window w;
+        w.txtvalor->set_leaving_prefix(QStringLiteral("R$ "), r.empty_to_zero);
+        w.txtvalor->setText(QString::fromUtf8(r.typed));
+        w.leave();
+        EXPECT_EQ(w.txtvalor->text(), QString::fromUtf8(r.on_leaving));
+    }
+    // coming back shows the plain number: the prefix is read, never doubled
+    value_window w;
+    w.txtvalor->set_leaving_prefix(QStringLiteral("R$ "), true);
+    w.leave();
+    w.txtvalor->setText(QStringLiteral("R$ 1.234,50"));
+    w.txtvalor->setFocus();
+    EXPECT_EQ(w.txtvalor->text(), QStringLiteral("1.234,50"));
+    w.leave();
+    EXPECT_EQ(w.txtvalor->text(), QStringLiteral("R$ 1.234,50"));
+}
+
 TEST(money_field, enter_moves_on_and_colours_follow_the_focus) {
     value_window w;
     EXPECT_EQ(w.txtvalor->palette().color(QPalette::Base), QColor(255, 255, 192));
