@@ -44,6 +44,8 @@ frmrecibo::frmrecibo()
     // shown with the prefix once left; nothing typed, or a leading separator, gives "R$ 00,00"
     txtvalor->set_leaving_prefix(QStringLiteral("R$ "), true);
 
+    for (QLineEdit* e : {txtpagamento, txtrecibo, txtreferente})
+        e->setMinimumWidth(320);
     auto* g = new QGridLayout;
     const auto linha = [g](int row, const char* rotulo, QWidget* campo) {
         g->addWidget(new QLabel(QString::fromUtf8(rotulo)), row, 0);
