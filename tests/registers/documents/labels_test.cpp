@@ -6,15 +6,18 @@
 #include "platform/widgets/key_input.h"
 #include "registers/labels.h"
 #include "registers/ui/frmConfEtiqueta.h"
+#include "registers/ui/frmcontatos.h"
 #include "shell/principal_api.h"
 #include "support/fixture.h"
 #include "support/pdf_read.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolBar>
 
 #include <cmath>
 #include <map>
@@ -46,8 +49,8 @@ TEST(labels, models_and_the_rows_each_sheet_holds) {
         EXPECT_EQ(f.Altura, r.altura);
         EXPECT_EQ(f.Largura, r.largura);
         EXPECT_EQ(f.Papel, u"Carta"_s);
-        registers::config_etiquetas c{f.Altura, f.Largura, f.MargemEsquerda, f.MargemSuperior, f.MargemInferior,
-                                      int(f.Colunas), 1, 1};
+        registers::config_etiquetas c{
+            f.Altura, f.Largura, f.MargemEsquerda, f.MargemSuperior, f.MargemInferior, int(f.Colunas), 1, 1};
         const auto g = registers::montar_grade(c, 215.9, 279.4);
         ASSERT_TRUE(g);
         EXPECT_EQ(g->colunas, r.colunas);
@@ -83,8 +86,9 @@ TEST(labels, fields_left_read_back_or_fall_to_their_defaults) {
         {"x", tipo_medida::inteiro, "1", "1"},
     };
     for (const row& r : rows)
-        EXPECT_EQ(registers::carregarEtiquetas(QString::fromUtf8(r.texto), r.tipo, QString::fromUtf8(r.padrao)),
-                  QString::fromUtf8(r.fica))
+        EXPECT_EQ(
+            registers::carregarEtiquetas(QString::fromUtf8(r.texto), r.tipo, QString::fromUtf8(r.padrao)),
+            QString::fromUtf8(r.fica))
             << r.texto;
 }
 
@@ -169,7 +173,8 @@ TEST_F(etiquetas, the_window_opens_on_the_6082_sheet_and_fields_fall_back_when_l
     const QStringList abertura = {f->txtAltura->text(), f->txtLargura->text(), f->txtMSup->text(),
                                   f->txtMInf->text(),   f->txtMEsq->text(),    f->txtColunas->text(),
                                   f->txtLinIni->text(), f->txtColIni->text()};
-    EXPECT_EQ(abertura, QStringList({u"33,9"_s, u"106,3"_s, u"21,2"_s, u"21,2"_s, u"4"_s, u"2"_s, u"1"_s, u"1"_s}));
+    EXPECT_EQ(abertura,
+              QStringList({u"33,9"_s, u"106,3"_s, u"21,2"_s, u"21,2"_s, u"4"_s, u"2"_s, u"1"_s, u"1"_s}));
     EXPECT_FALSE(f->chkVisualizar->isChecked());
     modelo(f, 0);
     EXPECT_EQ(f->txtLargura->text(), u"69,8"_s);
@@ -279,7 +284,8 @@ TEST_F(etiquetas, the_preview_shows_the_same_pages_and_prints_nothing_by_itself)
 }
 
 TEST_F(etiquetas, the_reports_messages) {
-    const auto imprimir = [&](const QString& comando, const std::function<void(frmConfEtiqueta*)>& antes = {}) {
+    const auto imprimir = [&](const QString& comando,
+                              const std::function<void(frmConfEtiqueta*)>& antes = {}) {
         frmConfEtiqueta* f = abrir(comando);
         if (antes) antes(f);
         f->cmdImprimir->click();
@@ -314,6 +320,30 @@ TEST_F(etiquetas, a_layout_field_the_table_lacks_is_told) {
     ASSERT_EQ(prompts_.boxes().size(), 1u);
     EXPECT_TRUE(prompts_.boxes()[0].text.startsWith(u"Erro não previsto:\r\n"_s));
     EXPECT_EQ(pdf_.jobs(), 0);
+}
+
+TEST_F(etiquetas, the_contact_lists_hand_over_their_table) {
+    exec(
+        u"INSERT INTO fornecedor (nome, endereco, bairro, cidade, estado, tel) VALUES ('Acme Ltda', 'Rua Z', "
+        u"'Polo', 'Jundiaí', 'SP', '13200-000')"_s);
+    for (const auto& [acao, tabela] :
+         {std::pair{u"mnuclientes"_s, u"cliente"_s}, {u"mnufornecedores"_s, u"fornecedor"_s}}) {
+        ASSERT_TRUE(shell::run_action(acao));
+        frmcontatos* lista = frmcontatos::aberto(tabela == u"cliente"_s ? registers::contato::cliente
+                                                                        : registers::contato::fornecedor);
+        ASSERT_TRUE(lista);
+        QAction* mala = lista->tbrbarra->findChild<QAction*>(u"mala"_s);
+        ASSERT_TRUE(mala && mala->isEnabled());
+        mala->trigger();
+        frmConfEtiqueta* f = frmConfEtiqueta::aberto();
+        ASSERT_TRUE(f && f->isVisible());
+        EXPECT_EQ(f->txtsql->text(), u"Select * from "_s + tabela);
+        delete lista;
+    }
+    frmConfEtiqueta::aberto()->cmdImprimir->click();
+    const QString pagina = support::pdf_pages(pdf_.path()).join(QString());
+    EXPECT_TRUE(pagina.contains(u"Acme Ltda"_s));
+    EXPECT_TRUE(pagina.contains(u"Jundiaí / SP"_s));
 }
 
 TEST(labels, field_formats) {
