@@ -11,9 +11,11 @@ namespace registers {
 void register_document_actions() {
     shell::register_action(QStringLiteral("mnuordemserv"), [] { show_window(frmordemserv::instance()); });
     shell::register_action(QStringLiteral("mnuboleto"), [] {
+        // the clients are read when the window is made, not each time it comes to the front
+        const bool nova = !frmboleto::aberto();
         frmboleto* f = frmboleto::instance();
         show_window(f);
-        f->carregar();
+        if (nova) f->carregar();
     });
     shell::register_action(QStringLiteral("frmConfEtiqueta"), [] { show_form(frmConfEtiqueta::instance()); });
 }

@@ -31,6 +31,10 @@ frmboleto* frmboleto::instance() {
     return the_window;
 }
 
+frmboleto* frmboleto::aberto() {
+    return the_window.data();
+}
+
 frmboleto::frmboleto()
     : QWidget(nullptr, Qt::Window), cbobanco(chosen_box("cbobanco")), cbocliente(typed_box("cbocliente")) {
     const registers::boleto_campos b = registers::boleto_inicial();

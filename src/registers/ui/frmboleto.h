@@ -14,6 +14,7 @@ class frmboleto : public QWidget {
     Q_OBJECT
 public:
     static frmboleto* instance();
+    static frmboleto* aberto();
     ~frmboleto() override;
 
     // The opening: the clients' names in cbocliente.

@@ -6,6 +6,7 @@
 #include "entries/ui/frmjurosparcelado.h"
 #include "platform/widgets/date_field.h"
 #include "platform/widgets/list_view.h"
+#include "shell/principal_api.h"
 #include "support/fixture.h"
 
 #include <QComboBox>
@@ -51,7 +52,8 @@ TEST(juros_desconto, amounts_read_by_their_leading_number) {
     };
     for (const row& r : rows) {
         SCOPED_TRACE(r.total);
-        const auto out = calcular_juros_desconto(QString::fromUtf8(r.total), QString::fromUtf8(r.taxa), r.juros);
+        const auto out =
+            calcular_juros_desconto(QString::fromUtf8(r.total), QString::fromUtf8(r.taxa), r.juros);
         EXPECT_FALSE(out.erro);
         EXPECT_EQ(out.resultado, QString::fromUtf8(r.resultado));
         EXPECT_EQ(out.novovalor, QString::fromUtf8(r.novo));
@@ -139,7 +141,9 @@ protected:
 };
 
 TEST_F(calculators, the_discount_window_relabels_and_warns_of_overflow) {
+    ASSERT_TRUE(shell::run_action(u"mnujurosdesc"_s));
     frmjurosdesconto* f = frmjurosdesconto::instance();
+    EXPECT_TRUE(f->isVisible());
     EXPECT_EQ(f->windowTitle(), u"Calculo de juros e descontos"_s);
     EXPECT_EQ(f->cboorigem->currentText(), u"Juros"_s);
     f->cboorigem->setCurrentIndex(1);
@@ -163,7 +167,9 @@ TEST_F(calculators, the_discount_window_relabels_and_warns_of_overflow) {
 }
 
 TEST_F(calculators, the_instalment_window_fills_its_list_and_warns_of_any_failure) {
+    ASSERT_TRUE(shell::run_action(u"mnujurosparcelas"_s));
     frmjurosparcelado* f = frmjurosparcelado::instance();
+    EXPECT_TRUE(f->isVisible());
     EXPECT_TRUE(f->optfixo->isChecked());
     f->txtvalor->setText(u"1000"_s);
     f->txtparcelas->setText(u"3"_s);

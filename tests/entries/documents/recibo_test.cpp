@@ -15,12 +15,16 @@ class recibo : public support::window_fixture {
 protected:
     void SetUp() override {
         support::window_fixture::SetUp();
-        exec(u"INSERT INTO pagar (estatus, origem, fornecedor, data, descricao, documento, informacoes, Valor, "
-             u"vencimento, moeda) VALUES ('Pendente', 'Itaú', 'Papelaria Central', '2026/11/01', 'Material', ' ', "
+        exec(u"INSERT INTO pagar (estatus, origem, fornecedor, data, descricao, documento, informacoes, "
+             u"Valor, "
+             u"vencimento, moeda) VALUES ('Pendente', 'Itaú', 'Papelaria Central', '2026/11/01', 'Material', "
+             u"' ', "
              u"' ', '1234,5', '2026/11/10', '$')"_s);
-        exec(u"INSERT INTO receber (estatus, origem, cliente, data, descricao, documento, informacoes, Valor, "
-             u"vencimento, moeda) VALUES ('Pendente', 'Itaú', 'Ana Lima', '2026/11/03', 'Consultoria', ' ', ' ', "
-             u"'80,00', '2026/11/20', '€')"_s);
+        exec(
+            u"INSERT INTO receber (estatus, origem, cliente, data, descricao, documento, informacoes, Valor, "
+            u"vencimento, moeda) VALUES ('Pendente', 'Itaú', 'Ana Lima', '2026/11/03', 'Consultoria', ' ', ' "
+            u"', "
+            u"'80,00', '2026/11/20', '€')"_s);
         p->carregarpagar();
         p->carregarreceber();
         platform::set_print_destination(&pdf_);
@@ -110,8 +114,8 @@ TEST_F(recibo, the_page_holds_the_lines_and_one_prefix) {
 }
 
 TEST_F(recibo, the_lines_are_blank_exact) {
-    const QStringList l = entries::linhas_recibo(
-        {u"Recibo de contas a pagar"_s, u"Fulano"_s, u"Eu"_s, u"Aluguel"_s, u"R$ 1.234,5"_s, u"01/12/2026"_s});
+    const QStringList l = entries::linhas_recibo({u"Recibo de contas a pagar"_s, u"Fulano"_s, u"Eu"_s,
+                                                  u"Aluguel"_s, u"R$ 1.234,5"_s, u"01/12/2026"_s});
     ASSERT_EQ(l.size(), 16);
     EXPECT_EQ(l[0], u"Recibo de contas a pagar "_s);
     EXPECT_EQ(l[1], u" "_s + QString(77, QLatin1Char('_')));

@@ -23,8 +23,9 @@ protected:
     }
     void cliente(const QString& nome, const QString& bairro, const QString& cidade, const QString& cep,
                  const QString& endereco) {
-        exec(u"INSERT INTO cliente (nome, bairro, cidade, cep, endereco) VALUES ('%1', '%2', '%3', '%4', '%5')"_s.arg(
-            nome, bairro, cidade, cep, endereco));
+        exec(
+            u"INSERT INTO cliente (nome, bairro, cidade, cep, endereco) VALUES ('%1', '%2', '%3', '%4', '%5')"_s
+                .arg(nome, bairro, cidade, cep, endereco));
     }
     frmboleto* abrir() {
         EXPECT_TRUE(shell::run_action(u"mnuboleto"_s));
@@ -43,13 +44,18 @@ TEST_F(boleto, the_design_values_go_out_in_the_fixed_key_order) {
     f->cbocliente->setEditText(u"Ana Lima"_s);
     f->cdmgerar->click();
     ASSERT_EQ(shell_.opened.size(), 1);
-    EXPECT_EQ(shell_.opened[0],
-              u"https://www.quintara.com.br/online/boleto/real.aspx?valor=50&agcod=07672&conta=77097556"
-              u"&nossonum=5000170&cedente=Empresa Modelo Ltda&inscricao=123456&candidato=Ana Lima"
-              u"&vencimento=20/01/2009&linha1=testando o boleto&linha2=testando o boleto&linha3=testando o boleto"
-              u"&codcedente=7.709755-6&cep=13000-000&cidade=Campinas&bairro=Vila Nova&endereco=Av. Brasil, 100"
-              u"&fator=4123000000"_s);
+    EXPECT_EQ(
+        shell_.opened[0],
+        u"https://www.quintara.com.br/online/boleto/real.aspx?valor=50&agcod=07672&conta=77097556"
+        u"&nossonum=5000170&cedente=Empresa Modelo Ltda&inscricao=123456&candidato=Ana Lima"
+        u"&vencimento=20/01/2009&linha1=testando o boleto&linha2=testando o boleto&linha3=testando o boleto"
+        u"&codcedente=7.709755-6&cep=13000-000&cidade=Campinas&bairro=Vila Nova&endereco=Av. Brasil, 100"
+        u"&fator=4123000000"_s);
     EXPECT_TRUE(prompts_.boxes().empty());
+    // brought to the front again, it keeps what was typed
+    f->cbocliente->setEditText(u"Bruno"_s);
+    EXPECT_EQ(abrir(), f);
+    EXPECT_EQ(f->cbocliente->currentText(), u"Bruno"_s);
 }
 
 TEST_F(boleto, amounts_and_due_factors_as_the_page_expects_them) {
@@ -63,7 +69,7 @@ TEST_F(boleto, amounts_and_due_factors_as_the_page_expects_them) {
         {"1.234,56", "03/07/2000", "1.23456", "1000000000"},
         {"50,00", "04/07/2000", "5000", "1001000000"},
         {"50", "1/7/2000", "50", "998000000"},
-        {"abc", "31/02/2009", "abc", "000000"},   // a date that does not exist: no factor, no message
+        {"abc", "31/02/2009", "abc", "000000"}, // a date that does not exist: no factor, no message
         {"", "amanhã", "", "000000"},
         {"99999999999999999999", "31/12/9999", "99999999999999999999", "2922755000000"},
     };
@@ -73,8 +79,8 @@ TEST_F(boleto, amounts_and_due_factors_as_the_page_expects_them) {
         b.valor = QString::fromUtf8(r.valor);
         b.vencimento = QString::fromUtf8(r.vencimento);
         const QString url = registers::endereco_boleto(u"http://x"_s, b, {});
-        EXPECT_TRUE(url.startsWith(u"http://x/online/boleto/real.aspx?valor="_s + QString::fromUtf8(r.sent_valor) +
-                                   u"&agcod="_s));
+        EXPECT_TRUE(url.startsWith(u"http://x/online/boleto/real.aspx?valor="_s +
+                                   QString::fromUtf8(r.sent_valor) + u"&agcod="_s));
         EXPECT_TRUE(url.endsWith(u"&endereco=&fator="_s + QString::fromUtf8(r.fator))) << qPrintable(url);
     }
 }
@@ -88,7 +94,8 @@ TEST_F(boleto, the_last_client_of_the_name_wins_and_an_apostrophe_finds_nothing)
     EXPECT_EQ(e.endereco, u"E2"_s);
     cliente(u"D''Ávila"_s, u"B3"_s, u"C3"_s, u"3"_s, u"E3"_s);
     const auto vazio = registers::endereco_de(u"D'Ávila"_s);
-    EXPECT_TRUE(vazio.bairro.isEmpty() && vazio.cidade.isEmpty() && vazio.cep.isEmpty() && vazio.endereco.isEmpty());
+    EXPECT_TRUE(vazio.bairro.isEmpty() && vazio.cidade.isEmpty() && vazio.cep.isEmpty() &&
+                vazio.endereco.isEmpty());
 
     // the page opens all the same, with the address empty and the name as typed
     frmboleto* f = abrir();

@@ -298,8 +298,14 @@ TEST_F(etiquetas, the_reports_messages) {
     imprimir(u"Select * from clientes"_s);
     pdf_.set_path(path(u"sem/pasta/etiquetas.pdf"_s));
     imprimir(u"Select * from cliente"_s);
+    struct sem_impressora : platform::print_target {
+        outcome prepare(QPrinter&) override { return no_printer; }
+    } nenhuma;
+    platform::set_print_destination(&nenhuma);
+    imprimir(u"Select * from cliente"_s);
+    platform::set_print_destination(&pdf_);
     const QStringList c = caixas();
-    ASSERT_EQ(c.size(), 5);
+    ASSERT_EQ(c.size(), 6);
     EXPECT_EQ(c[0], u"Impressão: Não há registros a imprimir"_s);
     EXPECT_EQ(c[1], u"Impressão: A página configurada para o relatório não possuí espaço suficiente para a "
                     u"impressão"_s);
@@ -308,6 +314,7 @@ TEST_F(etiquetas, the_reports_messages) {
     EXPECT_TRUE(c[3].contains(u"clientes"_s));
     EXPECT_EQ(c[4], u"Impressão: Erro não previsto:\r\nNão foi possível gravar o arquivo "_s +
                         path(u"sem/pasta/etiquetas.pdf"_s));
+    EXPECT_EQ(c[5], u"Impressão: É necessário existir uma impressora instalada no Windows"_s);
     EXPECT_EQ(prompts_.boxes()[0].style, platform::information);
 }
 

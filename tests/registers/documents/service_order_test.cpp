@@ -130,11 +130,12 @@ TEST_F(ordem, totals_count_value_times_quantity_in_the_currency_type) {
     using registers::servico_ordem;
     const std::vector<produto_ordem> produtos = {
         {u"A"_s, {}, {}, {}, {}, u"R$ 1.234,56"_s, u"3"_s},
-        {u"B"_s, {}, {}, {}, {}, u"R$ 10,00"_s, u""_s},     // no quantity counts 0
+        {u"B"_s, {}, {}, {}, {}, u"R$ 10,00"_s, u""_s},      // no quantity counts 0
         {u"C"_s, {}, {}, {}, {}, u"R$ 0,10"_s, u"2,5 un"_s}, // read by its leading number: 2
         {u"D"_s, {}, {}, {}, {}, u"R$ 0,3333"_s, u"3"_s},
     };
-    const std::vector<servico_ordem> servicos = {{u"Reparo"_s, {}, u"R$ 99,90"_s}, {u"Frete"_s, {}, u"0,10"_s}};
+    const std::vector<servico_ordem> servicos = {{u"Reparo"_s, {}, u"R$ 99,90"_s},
+                                                 {u"Frete"_s, {}, u"0,10"_s}};
     const auto t = registers::totalizar(produtos, servicos);
     EXPECT_EQ(vb::format_money(t.produtos), u"3.704,88"_s); // 3703,68 + 0 + 0,20 + 0,9999
     EXPECT_EQ(t.produtos.raw(), 37048799);
@@ -156,10 +157,10 @@ TEST_F(ordem, the_page_lays_out_the_order_and_its_summary) {
     f->cmdimprimir->click();
     EXPECT_TRUE(prompts_.boxes().empty());
     const QString page = pagina();
-    for (const QString& t : {u"Oficina Silva"_s, u"Rua A, 10"_s, u"Telefone de contato: (11) 5555-0000"_s,
-                             u"ORDEM DE SERVIÇO"_s, u"Nome do cliente: Ana Lima"_s,
-                             u"Data de emissão: segunda-feira, 23 de novembro de 2026"_s, u"RESUMO"_s,
-                             u"Gerado segunda-feira, 23 de novembro de 2026 às 10:00:00"_s})
+    for (const QString& t :
+         {u"Oficina Silva"_s, u"Rua A, 10"_s, u"Telefone de contato: (11) 5555-0000"_s, u"ORDEM DE SERVIÇO"_s,
+          u"Nome do cliente: Ana Lima"_s, u"Data de emissão: segunda-feira, 23 de novembro de 2026"_s,
+          u"RESUMO"_s, u"Gerado segunda-feira, 23 de novembro de 2026 às 10:00:00"_s})
         EXPECT_FALSE(linha_com(page, t).isEmpty()) << qPrintable(t);
     EXPECT_EQ(linha_com(page, u"Total de produtos:"_s), u"Total de produtos: R$ 300,00"_s);
     EXPECT_EQ(linha_com(page, u"Total de serviços:"_s), u"Total de serviços: R$ 80,00"_s);
@@ -199,8 +200,9 @@ TEST_F(ordem, a_printer_that_fails_and_a_value_that_is_no_amount) {
     pdf_.set_path(path(u"ordem.pdf"_s));
     produto(u"X"_s, u"R$ 900.000.000.000,00"_s, u"99999"_s);
     f->cmdimprimir->click();
-    const QString erro = u" Ocorreu um erro ao tentar imprimir, verifique se a impressora está ligada e conectada ao "
-                         u"computador"_s;
+    const QString erro =
+        u" Ocorreu um erro ao tentar imprimir, verifique se a impressora está ligada e conectada ao "
+        u"computador"_s;
     ASSERT_EQ(prompts_.boxes().size(), 2u);
     for (const auto& b : prompts_.boxes()) {
         EXPECT_EQ(b.title, u"Erro"_s);
