@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <tuple>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -24,111 +26,78 @@ using entries::calcular_parcelas;
 
 const QDate hoje(2026, 11, 23);
 
-QStringList rows_of(const entries::parcelamento& r) {
-    QStringList out;
-    for (const auto& p : r.parcelas)
-        out << p.numero + u" "_s + p.vencimento + u" "_s + p.valor;
-    return out;
-}
-
-TEST(juros_desconto, amounts_read_by_their_leading_number) {
-    struct row {
-        const char* total;
-        const char* taxa;
-        bool juros;
-        const char* resultado;
-        const char* novo;
-    };
-    const row rows[] = {
+TEST(juros_desconto, amounts_read_by_their_leading_number_and_the_currency_limits) {
+    // total, rate, interest or discount, txtresultado, txtnovovalor ("" where the step overflowed)
+    const std::tuple<const char*, const char*, bool, const char*, const char*> rows[] = {
         {"1000", "10", true, "R$ 100,00", "R$ 1.100,00"},
         {"1000", "10", false, "R$ 100,00", "R$ 900,00"},
-        // "1.234,56" reads 1.234, "100,50" reads 100
-        {"1.234,56", "10", true, "R$ 0,12", "R$ 1,36"},
-        {"100,50", "10", true, "R$ 10,00", "R$ 110,00"},
-        // a discount above the amount: a negative amount and no warning
-        {"100", "150", false, "R$ 150,00", "R$ -50,00"},
+        {"1.234,56", "10", true, "R$ 0,12", "R$ 1,36"},  // "1.234,56" reads 1.234
+        {"100,50", "10", true, "R$ 10,00", "R$ 110,00"}, // "100,50" reads 100
+        {"100", "150", false, "R$ 150,00", "R$ -50,00"}, // a discount above the amount: no warning
         {"abc", "x1", true, "R$ 0,00", "R$ 0,00"},
         {"250", "2.5", true, "R$ 6,25", "R$ 256,25"},
+        {"1e300", "10", true, "", ""},                                 // the amount itself
+        {"900000000000000", "2", true, "", ""},                        // amount times rate
+        {"922337203685477", "1", true, "R$ 9.223.372.036.854,77", ""}, // the new amount
     };
-    for (const row& r : rows) {
-        SCOPED_TRACE(r.total);
-        const auto out =
-            calcular_juros_desconto(QString::fromUtf8(r.total), QString::fromUtf8(r.taxa), r.juros);
-        EXPECT_FALSE(out.erro);
-        EXPECT_EQ(out.resultado, QString::fromUtf8(r.resultado));
-        EXPECT_EQ(out.novovalor, QString::fromUtf8(r.novo));
+    for (const auto& [total, taxa, juros, resultado, novo] : rows) {
+        const auto r = calcular_juros_desconto(QString::fromUtf8(total), QString::fromUtf8(taxa), juros);
+        EXPECT_EQ(r.erro, !*novo) << total;
+        EXPECT_EQ(r.resultado.value_or(QString()), QString::fromUtf8(resultado)) << total;
+        EXPECT_EQ(r.novovalor.value_or(QString()), QString::fromUtf8(novo)) << total;
     }
 }
 
-TEST(juros_desconto, amounts_past_the_currency_stop_where_they_overflow) {
-    // the amount itself
-    auto r = calcular_juros_desconto(u"1e300"_s, u"10"_s, true);
-    EXPECT_TRUE(r.erro);
-    EXPECT_FALSE(r.resultado);
-    // amount times rate
-    r = calcular_juros_desconto(u"900000000000000"_s, u"2"_s, true);
-    EXPECT_TRUE(r.erro);
-    EXPECT_FALSE(r.resultado);
-    // the interest fits, the new amount does not: the first field is already written
-    r = calcular_juros_desconto(u"922337203685477"_s, u"1"_s, true);
-    EXPECT_TRUE(r.erro);
-    EXPECT_EQ(r.resultado, u"R$ 9.223.372.036.854,77"_s);
-    EXPECT_FALSE(r.novovalor);
-}
-
-TEST(juros_parcelado, instalments_of_the_two_kinds_of_interest) {
-    auto r = calcular_parcelas(u"1000"_s, u"3"_s, u"30"_s, hoje, u"10"_s, false);
-    ASSERT_FALSE(r.erro);
-    EXPECT_EQ(rows_of(r), QStringList({u"1ª 23/12/2026 R$ 433,3333"_s, u"2ª 22/01/2027 R$ 433,3333"_s,
-                                       u"3ª 21/02/2027 R$ 433,3333"_s}));
-    EXPECT_EQ(r.valorjuros, u"300"_s);
-    EXPECT_EQ(r.totaljuros, u"1300"_s);
-
-    r = calcular_parcelas(u"1000"_s, u"3"_s, u"30"_s, hoje, u"10"_s, true);
-    EXPECT_EQ(r.parcelas.front().valor, u"R$ 366,6667"_s);
-    EXPECT_EQ(r.valorjuros, u"100"_s);
-    EXPECT_EQ(r.totaljuros, u"1100"_s);
-
-    // "1.000,50" reads 1; half a day shows the time
-    r = calcular_parcelas(u"1.000,50"_s, u"2"_s, u"0.5"_s, hoje, u"0"_s, true);
-    EXPECT_EQ(rows_of(r), QStringList({u"1ª 23/11/2026 12:00:00 R$ 0,5"_s, u"2ª 24/11/2026 R$ 0,5"_s}));
-}
-
-TEST(juros_parcelado, counts_below_one_fill_no_rows_but_the_totals) {
-    for (const char* n : {"0", "-2", "0,9", "abc"}) {
-        SCOPED_TRACE(n);
-        const auto r = calcular_parcelas(u"1000"_s, QString::fromUtf8(n), u"30"_s, hoje, u"10"_s, true);
+TEST(juros_parcelado, instalments_and_counts_below_one) {
+    // amount, count, days, fixed interest, rows, interest, total
+    const std::tuple<const char*, const char*, const char*, bool, const char*, const char*, const char*>
+        rows[] = {
+            {"1000", "3", "30", false,
+             "1ª 23/12/2026 R$ 433,3333|2ª 22/01/2027 R$ 433,3333|3ª 21/02/2027 R$ 433,3333", "300", "1300"},
+            {"1000", "2", "30", true, "1ª 23/12/2026 R$ 550|2ª 22/01/2027 R$ 550", "100", "1100"},
+            // "1.000,50" reads 1; half a day shows the time
+            {"1.000,50", "2", "0.5", true, "1ª 23/11/2026 12:00:00 R$ 0,55|2ª 24/11/2026 R$ 0,55", "0,1",
+             "1,1"},
+            // below one: no rows, no division, the totals all the same
+            {"1000", "0", "30", true, "", "100", "1100"},
+            {"1000", "0,9", "30", true, "", "100", "1100"},
+            {"1000", "-2", "30", false, "", "-200", "800"},
+        };
+    for (const auto& [valor, n, dias, fixo, linhas, juros, total] : rows) {
+        const auto r = calcular_parcelas(QString::fromUtf8(valor), QString::fromUtf8(n),
+                                         QString::fromUtf8(dias), hoje, u"10"_s, fixo);
+        QStringList feitas;
+        for (const auto& p : r.parcelas)
+            feitas << p.numero + u" "_s + p.vencimento + u" "_s + p.valor;
         EXPECT_FALSE(r.erro);
-        EXPECT_TRUE(r.limpa);
-        EXPECT_TRUE(r.parcelas.empty());
-        EXPECT_EQ(r.totaljuros, u"1100"_s);
+        EXPECT_EQ(feitas.join(u"|"_s), QString::fromUtf8(linhas)) << valor << " " << n;
+        EXPECT_EQ(r.valorjuros, QString::fromUtf8(juros));
+        EXPECT_EQ(r.totaljuros, QString::fromUtf8(total));
     }
-    // monthly interest grows with the count, also a negative one
-    const auto r = calcular_parcelas(u"1000"_s, u"-2"_s, u"30"_s, hoje, u"10"_s, false);
-    EXPECT_EQ(r.valorjuros, u"-200"_s);
-    EXPECT_EQ(r.totaljuros, u"800"_s);
 }
 
 TEST(juros_parcelado, every_failure_is_the_date_message) {
-    // no date: nothing changes, not even the list
-    auto r = calcular_parcelas(u"1000"_s, u"3"_s, u"30"_s, QDate(), u"10"_s, true);
-    EXPECT_TRUE(r.erro);
-    EXPECT_FALSE(r.limpa);
-    // a count the 16-bit counter cannot reach
-    r = calcular_parcelas(u"1000"_s, u"99999"_s, u"30"_s, hoje, u"10"_s, true);
-    EXPECT_TRUE(r.erro);
-    EXPECT_TRUE(r.limpa);
-    EXPECT_TRUE(r.parcelas.empty());
-    EXPECT_FALSE(r.totaljuros);
-    // an instalment past the currency
-    r = calcular_parcelas(u"1e300"_s, u"2"_s, u"30"_s, hoje, u"10"_s, true);
-    EXPECT_TRUE(r.erro);
-    EXPECT_TRUE(r.parcelas.empty());
-    // a due date past the year 9999: the rows before it stay
-    r = calcular_parcelas(u"1000"_s, u"3"_s, u"1000000"_s, hoje, u"10"_s, true);
-    EXPECT_TRUE(r.erro);
-    EXPECT_EQ(r.parcelas.size(), 2u);
-    EXPECT_FALSE(r.totaljuros);
+    struct row {
+        const char *valor, *parcelas, *dias;
+        QDate data;
+        bool limpa;
+        std::size_t linhas;
+    };
+    const row rows[] = {
+        {"1000", "3", "30", QDate(), false, 0},  // no date: not even the list changes
+        {"1000", "99999", "30", hoje, true, 0},  // a count the 16-bit counter cannot reach
+        {"1e300", "2", "30", hoje, true, 0},     // an instalment past the currency
+        {"1000", "3", "1000000", hoje, true, 2}, // a due date past 9999: the rows before it stay
+    };
+    for (const row& w : rows) {
+        SCOPED_TRACE(w.parcelas);
+        const auto r = calcular_parcelas(QString::fromUtf8(w.valor), QString::fromUtf8(w.parcelas),
+                                         QString::fromUtf8(w.dias), w.data, u"10"_s, true);
+        EXPECT_TRUE(r.erro);
+        EXPECT_EQ(r.limpa, w.limpa);
+        EXPECT_EQ(r.parcelas.size(), w.linhas);
+        EXPECT_FALSE(r.totaljuros);
+    }
 }
 
 class calculators : public support::fixture {
@@ -140,36 +109,23 @@ protected:
     }
 };
 
-TEST_F(calculators, the_discount_window_relabels_and_warns_of_overflow) {
+TEST_F(calculators, the_windows_from_the_menu_relabel_fill_and_warn) {
     ASSERT_TRUE(shell::run_action(u"mnujurosdesc"_s));
-    frmjurosdesconto* f = frmjurosdesconto::instance();
-    EXPECT_TRUE(f->isVisible());
-    EXPECT_EQ(f->windowTitle(), u"Calculo de juros e descontos"_s);
-    EXPECT_EQ(f->cboorigem->currentText(), u"Juros"_s);
-    f->cboorigem->setCurrentIndex(1);
-    f->cboorigem_click();
-    EXPECT_EQ(f->lbltipo->text(), u"Desconto:"_s);
-    EXPECT_EQ(f->lblporcentagem->text(), u"Total de desconto:"_s);
-    f->txttotal->setText(u"1000"_s);
-    f->txtporcentagem->setText(u"10"_s);
-    f->cmdcalcular->click();
-    EXPECT_EQ(f->txtresultado->text(), u"R$ 100,00"_s);
-    EXPECT_EQ(f->txtnovovalor->text(), u"R$ 900,00"_s);
-    EXPECT_TRUE(prompts_.boxes().empty());
+    frmjurosdesconto* d = frmjurosdesconto::instance();
+    EXPECT_EQ(d->cboorigem->currentText() + d->lbltipo->text(), u"JurosJuros:"_s);
+    d->cboorigem->setCurrentIndex(1);
+    d->cboorigem_click();
+    EXPECT_EQ(d->lbltipo->text() + d->lblporcentagem->text(), u"Desconto:Total de desconto:"_s);
+    d->txttotal->setText(u"1000"_s);
+    d->txtporcentagem->setText(u"10"_s);
+    d->cmdcalcular->click();
+    EXPECT_EQ(d->txtnovovalor->text(), u"R$ 900,00"_s);
+    d->txttotal->setText(u"99999999999999999999"_s);
+    d->cmdcalcular->click();
+    EXPECT_EQ(d->txtresultado->text(), u"R$ 100,00"_s); // left as it was
 
-    f->txttotal->setText(u"99999999999999999999"_s);
-    f->cmdcalcular->click();
-    ASSERT_EQ(prompts_.boxes().size(), 1u);
-    EXPECT_EQ(prompts_.boxes()[0].title, u"Erro"_s);
-    EXPECT_EQ(prompts_.boxes()[0].style, platform::exclamation);
-    EXPECT_EQ(prompts_.boxes()[0].text, u"Valores muito altos para serem calculados!"_s);
-    EXPECT_EQ(f->txtresultado->text(), u"R$ 100,00"_s);
-}
-
-TEST_F(calculators, the_instalment_window_fills_its_list_and_warns_of_any_failure) {
     ASSERT_TRUE(shell::run_action(u"mnujurosparcelas"_s));
     frmjurosparcelado* f = frmjurosparcelado::instance();
-    EXPECT_TRUE(f->isVisible());
     EXPECT_TRUE(f->optfixo->isChecked());
     f->txtvalor->setText(u"1000"_s);
     f->txtparcelas->setText(u"3"_s);
@@ -179,19 +135,19 @@ TEST_F(calculators, the_instalment_window_fills_its_list_and_warns_of_any_failur
     f->optmes->setChecked(true);
     f->cmdcalcular->click();
     ASSERT_EQ(f->lstmeses->row_count(), 3);
-    EXPECT_EQ(f->lstmeses->text(2, 0), u"3ª"_s);
-    EXPECT_EQ(f->lstmeses->text(2, 1), u"21/02/2027"_s);
-    EXPECT_EQ(f->lstmeses->text(2, 2), u"R$ 433,3333"_s);
-    EXPECT_EQ(f->txtvalorjuros->text(), u"300"_s);
-    EXPECT_EQ(f->txttotaljuros->text(), u"1300"_s);
-
+    EXPECT_EQ(f->lstmeses->text(2, 0) + f->lstmeses->text(2, 1) + f->lstmeses->text(2, 2),
+              u"3ª21/02/2027R$ 433,3333"_s);
+    EXPECT_EQ(f->txtvalorjuros->text() + u"|"_s + f->txttotaljuros->text(), u"300|1300"_s);
     // a date that does not exist: the message, the list as it was
     f->txtdata->set_text(u"31/02/2027"_s);
     f->cmdcalcular->click();
     EXPECT_EQ(f->lstmeses->row_count(), 3);
-    ASSERT_EQ(prompts_.boxes().size(), 1u);
-    EXPECT_EQ(prompts_.boxes()[0].text, u"A data digitada é invalida!"_s);
-    EXPECT_EQ(prompts_.boxes()[0].title, u"Erro"_s);
+
+    QStringList caixas;
+    for (const auto& b : prompts_.boxes())
+        caixas << b.title + u": "_s + b.text + (b.style == platform::exclamation ? u" (!)"_s : u""_s);
+    EXPECT_EQ(caixas, QStringList({u"Erro: Valores muito altos para serem calculados! (!)"_s,
+                                   u"Erro: A data digitada é invalida! (!)"_s}));
 }
 
 } // namespace

@@ -15,7 +15,6 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTabWidget>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,12 +54,9 @@ protected:
         c->txtvalor->setText(valor);
         c->cmdadicionar->click();
     }
-    QString pagina() {
-        const QStringList p = support::pdf_pages(pdf_.path());
-        return p.join(u"\f"_s);
-    }
-    static QString linha_com(const QString& page, const QString& texto) {
-        for (const QString& l : page.split(QLatin1Char('\n')))
+    // The first printed line that holds the text, blanks squeezed.
+    QString linha_com(const QString& texto) {
+        for (const QString& l : support::pdf_pages(pdf_.path()).join(u"\n"_s).split(QLatin1Char('\n')))
             if (l.contains(texto)) return l.simplified();
         return {};
     }
@@ -68,58 +64,37 @@ protected:
     platform::pdf_target pdf_{path(u"ordem.pdf"_s)};
 };
 
-TEST_F(ordem, the_entry_windows_check_their_fields_and_add_rows) {
-    f->cmdadpro->click();
-    frmcadprodorc* c = frmcadprodorc::aberto();
-    ASSERT_TRUE(c);
-    EXPECT_EQ(c->windowTitle(), u"Cadastrar novo produto"_s);
-    c->txtnome->setText(u"   "_s);
-    c->cmdadicionar->click();
-    c->txtnome->setText(u"Placa"_s);
-    c->cmdadicionar->click();
+TEST_F(ordem, the_entry_windows_check_their_fields_and_the_lists_lose_rows) {
+    produto(u"   "_s, {}, {});
+    frmcadprodorc::aberto()->txtnome->setText(u"Placa"_s);
+    frmcadprodorc::aberto()->cmdadicionar->click();
+    frmcadprodorc::aberto()->close();
+    servico({}, {});
+    frmcadservord::aberto()->txtnome->setText(u"Reparo"_s);
+    frmcadservord::aberto()->cmdadicionar->click();
+    frmcadservord::aberto()->close();
     QStringList textos;
     for (const auto& b : prompts_.boxes())
         textos << b.title + u": "_s + b.text;
     EXPECT_EQ(textos, QStringList({u"Erro: O nome do produto deve ser digitado!"_s,
-                                   u"Erro: O valor do produto deve ser digitado!"_s}));
-    EXPECT_EQ(prompts_.boxes()[0].style, platform::exclamation);
-    EXPECT_EQ(f->lstprodutos->row_count(), 0);
+                                   u"Erro: O valor do produto deve ser digitado!"_s,
+                                   u"Erro: O tipo de serviço deve ser digitado!"_s,
+                                   u"Erro: O valor do serviço deve ser digitado!"_s}));
+    EXPECT_EQ(f->lstprodutos->row_count() + f->lstservicos->row_count(), 0);
     prompts_.clear();
 
-    f->cmdadserv->click();
-    frmcadservord* s = frmcadservord::aberto();
-    ASSERT_TRUE(s);
-    EXPECT_EQ(s->windowTitle(), u"Adicionar novo serviço"_s);
-    s->cmdadicionar->click();
-    s->txtnome->setText(u"Reparo"_s);
-    s->cmdadicionar->click();
-    ASSERT_EQ(prompts_.boxes().size(), 2u);
-    EXPECT_EQ(prompts_.boxes()[0].text, u"O tipo de serviço deve ser digitado!"_s);
-    EXPECT_EQ(prompts_.boxes()[1].text, u"O valor do serviço deve ser digitado!"_s);
-    s->close();
-
-    produto(u"Placa"_s, u"R$ 150,00"_s, u"2"_s);
-    EXPECT_EQ(f->lstprodutos->row_count(), 1);
-    EXPECT_EQ(f->lstprodutos->text(0, 5), u"R$ 150,00"_s);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(frmcadprodorc::aberto(), nullptr); // closed once the row was added
-}
-
-TEST_F(ordem, removals_with_and_without_a_selection) {
     produto(u"A"_s, u"R$ 1,00"_s, u"1"_s);
     produto(u"B"_s, u"R$ 2,00"_s, u"1"_s);
     servico(u"Reparo"_s, u"R$ 3,00"_s);
-    f->lstprodutos->clearSelection();
+    EXPECT_EQ(f->lstprodutos->text(1, 5), u"R$ 2,00"_s);
     f->lstprodutos->setCurrentIndex({});
     f->cmdrempro->click(); // nothing selected: nothing happens
     EXPECT_EQ(f->lstprodutos->row_count(), 2);
     f->lstprodutos->select_row(0);
     f->cmdrempro->click();
-    ASSERT_EQ(f->lstprodutos->row_count(), 1);
     EXPECT_EQ(f->lstprodutos->text(0, 0), u"B"_s);
     f->cmdprodtudo->click();
     EXPECT_EQ(f->lstprodutos->row_count(), 0);
-    EXPECT_EQ(f->lstservicos->row_count(), 1);
     f->cmd->click();
     EXPECT_EQ(f->lstservicos->row_count(), 0);
     EXPECT_TRUE(prompts_.boxes().empty());
@@ -156,17 +131,15 @@ TEST_F(ordem, the_page_lays_out_the_order_and_its_summary) {
     servico(u"Reparo"_s, u"R$ 80,00"_s);
     f->cmdimprimir->click();
     EXPECT_TRUE(prompts_.boxes().empty());
-    const QString page = pagina();
-    for (const QString& t :
-         {u"Oficina Silva"_s, u"Rua A, 10"_s, u"Telefone de contato: (11) 5555-0000"_s, u"ORDEM DE SERVIÇO"_s,
-          u"Nome do cliente: Ana Lima"_s, u"Data de emissão: segunda-feira, 23 de novembro de 2026"_s,
-          u"RESUMO"_s, u"Gerado segunda-feira, 23 de novembro de 2026 às 10:00:00"_s})
-        EXPECT_FALSE(linha_com(page, t).isEmpty()) << qPrintable(t);
-    EXPECT_EQ(linha_com(page, u"Total de produtos:"_s), u"Total de produtos: R$ 300,00"_s);
-    EXPECT_EQ(linha_com(page, u"Total de serviços:"_s), u"Total de serviços: R$ 80,00"_s);
-    EXPECT_EQ(linha_com(page, u"Total a pagar:"_s), u"Total a pagar: R$ 380,00"_s);
-    EXPECT_TRUE(linha_com(page, u"PRODUTOS"_s).startsWith(u"PRODUTOS ------"_s));
-    EXPECT_TRUE(linha_com(page, u"SERVIÇOS"_s).startsWith(u"SERVIÇOS ------"_s));
+    for (const QString& t : {u"Telefone de contato: (11) 5555-0000"_s, u"Nome do cliente: Ana Lima"_s,
+                             u"Data de emissão: segunda-feira, 23 de novembro de 2026"_s, u"RESUMO"_s,
+                             u"Gerado segunda-feira, 23 de novembro de 2026 às 10:00:00"_s})
+        EXPECT_FALSE(linha_com(t).isEmpty()) << qPrintable(t);
+    EXPECT_EQ(linha_com(u"Total de produtos:"_s), u"Total de produtos: R$ 300,00"_s);
+    EXPECT_EQ(linha_com(u"Total de serviços:"_s), u"Total de serviços: R$ 80,00"_s);
+    EXPECT_EQ(linha_com(u"Total a pagar:"_s), u"Total a pagar: R$ 380,00"_s);
+    EXPECT_TRUE(linha_com(u"PRODUTOS"_s).startsWith(u"PRODUTOS ------"_s));
+    EXPECT_TRUE(linha_com(u"SERVIÇOS"_s).startsWith(u"SERVIÇOS ------"_s));
 
     // the fixed columns: the title at 40, product values at 30, service values and totals at 25
     const auto words = support::pdf_words(pdf_.path());
@@ -175,7 +148,6 @@ TEST_F(ordem, the_page_lays_out_the_order_and_its_summary) {
             if (p.text == w) return p.x;
         return -1.0;
     };
-    EXPECT_NEAR(x_de(u"Placa"_s), x_de(u"Marca"_s), 0.01);
     const double servicos = x_de(u"Reparo"_s), produtos = x_de(u"Placa"_s);
     // tab n stands n - 1 columns from the printable area's edge (6,35 mm in)
     EXPECT_NEAR((produtos - 6.35) / (servicos - 6.35), 29.0 / 24.0, 0.01);
@@ -186,28 +158,21 @@ TEST_F(ordem, the_page_lays_out_the_order_and_its_summary) {
     EXPECT_GT(x_de(u"ORDEM"_s), produtos);
 }
 
-TEST_F(ordem, empty_lists_print_the_heads_and_zero_totals) {
+TEST_F(ordem, empty_lists_a_printer_that_fails_and_an_amount_past_the_currency) {
     f->cmdimprimir->click();
-    const QString page = pagina();
-    EXPECT_FALSE(linha_com(page, u"PRODUTOS"_s).isEmpty());
-    EXPECT_FALSE(linha_com(page, u"SERVIÇOS"_s).isEmpty());
-    EXPECT_EQ(linha_com(page, u"Total a pagar:"_s), u"Total a pagar: R$ 0,00"_s);
-}
+    EXPECT_FALSE(linha_com(u"SERVIÇOS"_s).isEmpty());
+    EXPECT_EQ(linha_com(u"Total a pagar:"_s), u"Total a pagar: R$ 0,00"_s);
 
-TEST_F(ordem, a_printer_that_fails_and_a_value_that_is_no_amount) {
     pdf_.set_path(path(u"sem/pasta/ordem.pdf"_s));
     f->cmdimprimir->click();
     pdf_.set_path(path(u"ordem.pdf"_s));
     produto(u"X"_s, u"R$ 900.000.000.000,00"_s, u"99999"_s);
     f->cmdimprimir->click();
-    const QString erro =
-        u" Ocorreu um erro ao tentar imprimir, verifique se a impressora está ligada e conectada ao "
-        u"computador"_s;
     ASSERT_EQ(prompts_.boxes().size(), 2u);
-    for (const auto& b : prompts_.boxes()) {
-        EXPECT_EQ(b.title, u"Erro"_s);
-        EXPECT_EQ(b.text, erro); // with its leading blank
-    }
+    for (const auto& b : prompts_.boxes()) // with its leading blank
+        EXPECT_EQ(b.title + b.text,
+                  u"Erro Ocorreu um erro ao tentar imprimir, verifique se a impressora está "
+                  u"ligada e conectada ao computador"_s);
     // closing loses the order
     f->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
