@@ -70,6 +70,9 @@ CREATE TABLE cliente (
     adicionais TEXT
 );
 
+-- The bank slip's box reads the clients in name order.
+CREATE INDEX cliente_nome ON cliente (nome);
+
 CREATE TABLE fornecedor (
     "código"   INTEGER PRIMARY KEY AUTOINCREMENT,
     nome       TEXT,

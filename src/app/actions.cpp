@@ -6,9 +6,11 @@
 #include "analysis/ui/integrated_actions.h"
 #include "analysis/ui/report_actions.h"
 #include "banks/ui/actions.h"
+#include "entries/ui/document_actions.h"
 #include "mail/ui/actions.h"
 #include "registers/ui/actions.h"
 #include "registers/ui/centres_actions.h"
+#include "registers/ui/document_actions.h"
 #include "shell/ui/actions.h"
 
 namespace app {
@@ -24,6 +26,8 @@ void register_actions() {
     analysis::register_forecast_actions();
     mail::register_actions();
     analysis::register_report_actions();
+    entries::register_document_actions();
+    registers::register_document_actions();
 }
 
 } // namespace app

@@ -17,4 +17,9 @@ bool exibir_principal() {
            QLatin1String("1");
 }
 
+QString endereco_boleto() {
+    return setting(secao_config, QStringLiteral("EnderecoBoleto"),
+                   QStringLiteral("https://www.quintara.com.br"));
+}
+
 } // namespace store

@@ -13,4 +13,8 @@ void save_setting(const QString& secao, const QString& chave, const QString& val
 // ExibirPrincipal at "1": the main window shows its data and reloads it after every save.
 bool exibir_principal();
 
+// The site that makes the bank-slip pages (key "EnderecoBoleto" of "Configurações"): scheme and
+// host, the page's path follows it.
+QString endereco_boleto();
+
 } // namespace store

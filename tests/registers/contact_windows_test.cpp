@@ -211,7 +211,7 @@ TEST_F(contact_windows, export_print_and_the_shell) {
     frmcontatos* f = lista(contato::fornecedor);
     EXPECT_EQ(f->mnupopup->actions().size(), 10);
     EXPECT_EQ(f->tbrbarra->actions().size(), 8);
-    EXPECT_FALSE(f->tbrbarra->findChild<QAction*>(u"mala"_s)->isEnabled()); // no label window yet
+    EXPECT_TRUE(f->tbrbarra->findChild<QAction*>(u"mala"_s)->isEnabled());
     EXPECT_EQ(f->mnupopup->findChild<QAction*>(u"mnumaladireta"_s)->text(), u"Mala direta / Etiquetas"_s);
 
     prompts_.answer_text(path(u"f.txt"_s));

@@ -17,6 +17,7 @@ namespace {
 
 default_printer_target default_target;
 print_target* current_target = nullptr;
+print_preview* current_preview = nullptr;
 
 } // namespace
 
@@ -26,6 +27,14 @@ print_target& print_destination() {
 
 void set_print_destination(print_target* t) {
     current_target = t;
+}
+
+print_preview* preview_destination() {
+    return current_preview;
+}
+
+void set_preview_destination(print_preview* p) {
+    current_preview = p;
 }
 
 print_target::outcome default_printer_target::prepare(QPrinter& p) {
@@ -101,7 +110,8 @@ double tab_column_width(const QFontMetricsF& m) {
 }
 
 struct printer::impl {
-    std::unique_ptr<QPrinter> qp;
+    std::unique_ptr<QPrinter> own;
+    QPrinter* qp = nullptr;
     QPainter painter;
     QString error;
     bool active = false;
@@ -136,9 +146,11 @@ printer::~printer() {
 printer::start_result printer::begin(const QString& job_name, const page_format& format,
                                      print_target& target) {
     if (d->active) EndDoc();
-    d->qp = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    d->own = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    d->qp = d->own.get();
     d->qp->setPageLayout(
         QPageLayout(QPageSize(format.size), format.orientation, format.margins_mm, QPageLayout::Millimeter));
+    d->qp->setFullPage(format.full_page);
     d->qp->setDocName(job_name);
     switch (target.prepare(*d->qp)) {
     case print_target::cancelled:
@@ -148,7 +160,14 @@ printer::start_result printer::begin(const QString& job_name, const page_format&
     case print_target::ready:
         break;
     }
-    if (!d->painter.begin(d->qp.get())) {
+    return begin_on(*d->qp);
+}
+
+printer::start_result printer::begin_on(QPrinter& device) {
+    if (d->active && d->qp != &device) EndDoc();
+    if (d->own.get() != &device) d->own.reset();
+    d->qp = &device;
+    if (!d->painter.begin(d->qp)) {
         d->error = d->qp->outputFileName().isEmpty()
                        ? QStringLiteral("Não foi possível iniciar a impressão")
                        : QStringLiteral("Não foi possível gravar o arquivo ") + d->qp->outputFileName();
@@ -159,7 +178,8 @@ printer::start_result printer::begin(const QString& job_name, const page_format&
     const double res = d->qp->resolution();
     d->painter.scale(res / 1440.0, res / 1440.0);
     const QPageLayout layout = d->qp->pageLayout();
-    const QRectF paint = layout.paintRect(QPageLayout::Point);
+    const QRectF paint =
+        d->qp->fullPage() ? layout.fullRect(QPageLayout::Point) : layout.paintRect(QPageLayout::Point);
     d->scale_w = paint.width() * 20;
     d->scale_h = paint.height() * 20;
     d->x = d->y = 0;

@@ -11,6 +11,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class QImage;
@@ -24,6 +25,9 @@ struct page_format {
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
     // left, top, right, bottom, in millimetres
     QMarginsF margins_mm{10, 10, 10, 10};
+    // Positions from the corner of the sheet whatever the printer cannot reach (labels, whose
+    // places are measured on the sheet).
+    bool full_page = false;
 };
 
 // Readies a printer for one job.
@@ -57,6 +61,20 @@ private:
     int jobs_ = 0;
 };
 
+class printer;
+
+// Shows a job on the screen before it goes to paper: draw is called for the pages shown, and again
+// when the user prints from there.
+class print_preview {
+public:
+    virtual ~print_preview() = default;
+    virtual void show(const QString& job_name, const page_format& format,
+                      const std::function<void(printer&)>& draw) = 0;
+};
+// The preview of the desktop, or nullptr (no screen): callers then print to the destination.
+print_preview* preview_destination();
+void set_preview_destination(print_preview* p);
+
 // A font measured in twips: its pixel size is the point size in twentieths of a point.
 QFont twips_font(const QString& name, double points, bool bold = false);
 // The family a page is drawn in for the one a layout asks: the asked one when installed, else its
@@ -76,6 +94,8 @@ public:
 
     start_result begin(const QString& job_name, const page_format& format,
                        print_target& target = print_destination());
+    // A job drawn onto a printer someone else holds (a print preview's).
+    start_result begin_on(QPrinter& device);
     // Why begin failed.
     QString error_text() const;
     bool active() const;

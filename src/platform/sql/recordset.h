@@ -31,6 +31,7 @@ public:
     void close();
 
     bool eof() const { return pos_ >= rows(); }
+    bool is_open() const { return open_; }
     void move_next();
     void move_first() { pos_ = 0; }
     void move_last() { pos_ = rows() > 0 ? rows() - 1 : 0; }

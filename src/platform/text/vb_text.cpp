@@ -584,4 +584,25 @@ QString trim_blanks(const QString& text) {
     return text.mid(b, e - b);
 }
 
+currency ccur_number(double v) {
+    if (!std::isfinite(v)) throw overflow_error();
+    const double scaled = std::nearbyint(v * 10000.0); // the default rounding mode: half to even
+    if (scaled >= 9.2233720368547758e18 || scaled < -9.2233720368547758e18) throw overflow_error();
+    return currency::from_raw(static_cast<std::int64_t>(scaled));
+}
+
+currency multiply(currency a, currency b) {
+    const __int128 p = static_cast<__int128>(a.raw()) * b.raw();
+    __int128 q = p / 10000;
+    const __int128 r = p % 10000;
+    const __int128 twice = (r < 0 ? -r : r) * 2;
+    if (twice > 10000 || (twice == 10000 && (q % 2) != 0)) q += p < 0 ? -1 : 1;
+    if (q > raw_max || q < raw_min) throw overflow_error();
+    return currency::from_raw(static_cast<std::int64_t>(q));
+}
+
+double cdbl_of(currency v) {
+    return static_cast<double>(v.raw()) / 10000.0;
+}
+
 } // namespace vb

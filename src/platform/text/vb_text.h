@@ -114,4 +114,13 @@ QString weekday_name(const QDate& d, bool abbreviated = false);
 // Trim$: blanks (spaces only) off both ends; other white space stays.
 QString trim_blanks(const QString& text);
 
+// CCur of a number: half to even at the fourth decimal; overflow_error out of the currency's range
+// (infinities and NaN too).
+currency ccur_number(double v);
+// Currency times currency, as the old runtime multiplied them: exact, then half to even at the
+// fourth decimal; overflow_error out of range.
+currency multiply(currency a, currency b);
+// The currency value as a double (for the arithmetic that the old code did in doubles).
+double cdbl_of(currency v);
+
 } // namespace vb

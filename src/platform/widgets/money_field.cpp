@@ -31,6 +31,23 @@ QString money_field::text_on_leaving(const QString& text) {
     return text_on_entering(text);
 }
 
+void money_field::set_leaving_prefix(const QString& prefix, bool empty_to_zero) {
+    prefix_ = prefix.isNull() ? QStringLiteral("") : prefix;
+    empty_to_zero_ = empty_to_zero;
+}
+
+QString money_field::text_on_leaving(const QString& text, const QString& prefix, bool empty_to_zero) {
+    const QString zero = prefix + QStringLiteral("00,00");
+    if (text.isEmpty()) return empty_to_zero ? zero : text;
+    if (text.front() == QLatin1Char('.') || text.front() == QLatin1Char(',')) return zero;
+    try {
+        const auto v = vb::ccur(text);
+        return v ? vb::format_money_prefixed(*v, prefix) : text;
+    } catch (const vb::overflow_error&) {
+        return text;
+    }
+}
+
 QString money_field::typable_part(const QString& text) {
     QString out;
     out.reserve(text.size());
@@ -97,7 +114,8 @@ void money_field::focusInEvent(QFocusEvent* e) {
 void money_field::focusOutEvent(QFocusEvent* e) {
     if (is_leaving_field(*e)) {
         inside_ = false;
-        const QString shown = text_on_leaving(text());
+        const QString shown =
+            prefix_.isNull() ? text_on_leaving(text()) : text_on_leaving(text(), prefix_, empty_to_zero_);
         if (shown != text()) setText(shown);
     }
     QLineEdit::focusOutEvent(e);

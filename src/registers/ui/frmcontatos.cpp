@@ -8,6 +8,7 @@
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/form_builders.h"
 #include "platform/widgets/list_view.h"
+#include "registers/ui/frmConfEtiqueta.h"
 #include "registers/ui/frmcadcontato.h"
 #include "registers/ui/frmfincontato.h"
 #include "shell/principal_api.h"
@@ -299,5 +300,8 @@ void frmcontatos::financeiro() {
 }
 
 void frmcontatos::mala() {
+    // the labels of this list's table: "Select * from cliente" / "Select * from fornecedor"
+    frmConfEtiqueta::instance()->carregarsql(QStringLiteral("Select * from ") +
+                                             registers::textos(tipo_).tabela);
     shell::run_action(etiquetas);
 }

@@ -30,7 +30,7 @@ using shell::popup_kind;
 namespace {
 
 // The routines of this window that menus, pop-ups and buttons run by name. The receipt is not
-// among them: its window registers it when it exists.
+// among them: its window registers it, and this window only says which row it reads.
 const struct {
     const char* nome;
     void (frmprincipal::*rotina)();
@@ -94,6 +94,18 @@ void frmprincipal::montar_acoes() {
             store::save_setting(*t.secao, QString::fromUtf8(t.chave),
                                 this->item(item)->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
         });
+    }
+    // The receipt reads the selected row by its code (0 when its list has none); enabled with its window.
+    for (const auto& [nome, lista] : {std::pair{QStringLiteral("recibopagar"), lstpagar},
+                                      std::pair{QStringLiteral("reciboreceber"), lstreceber}}) {
+        acoes_.add(
+            nome,
+            [this, nome, l = lista] {
+                const int row = shell::linha_selecionada(l);
+                codigoselecionado = row >= 0 ? vb::val(l->text(row, 0)) : 0;
+                shell::run_action(nome);
+            },
+            [nome] { return shell::find_action(nome) != nullptr; });
     }
     acoes_.add(QStringLiteral("mnusair"), [this] { close(); });
     acoes_.add(QStringLiteral("mnumostrardicadia"), [this] { frmdica::mostrar_por_pedido(this); });

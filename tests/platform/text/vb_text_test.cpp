@@ -71,3 +71,20 @@ TEST(vb_text, currency_sums_keep_their_value_past_the_range_and_round_inside_it)
     EXPECT_EQ(vb::round_to_cents(vb::currency::from_raw(-12350)).raw(), -12400);
     EXPECT_EQ(vb::round_to_cents(vb::currency::from_raw(12349)).raw(), 12300);
 }
+
+TEST(vb_text, currency_products_numbers_and_plain_text) {
+    const auto c = [](std::int64_t raw) { return vb::currency::from_raw(raw); };
+    // exact product, then half to even at the fourth decimal
+    EXPECT_EQ(vb::multiply(c(10000000), c(100000)).raw(), 100000000); // 1000 x 10
+    EXPECT_EQ(vb::multiply(c(12345), c(5000)).raw(), 6172);           // 0,61725 -> 0,6172
+    EXPECT_EQ(vb::multiply(c(12355), c(5000)).raw(), 6178);           // 0,61775 -> 0,6178
+    EXPECT_EQ(vb::multiply(c(-12355), c(5000)).raw(), -6178);
+    EXPECT_THROW(vb::multiply(c(9000000000000000000), c(20000)), vb::overflow_error);
+    EXPECT_EQ(vb::ccur_number(1300.0 / 3).raw(), 4333333);
+    EXPECT_EQ(vb::ccur_number(-2.5).raw(), -25000);
+    EXPECT_THROW(vb::ccur_number(1e300), vb::overflow_error);
+    EXPECT_THROW(vb::ccur_number(std::numeric_limits<double>::infinity()), vb::overflow_error);
+    EXPECT_EQ(vb::cstr(c(4333333)), u"433,3333"_s);
+    EXPECT_EQ(vb::cstr(c(13000000)), u"1300"_s);
+    EXPECT_EQ(vb::cstr(c(-5000)), u"-0,5"_s);
+}

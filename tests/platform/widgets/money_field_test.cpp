@@ -69,6 +69,37 @@ TEST(money_field, backspace_and_a_comma_over_the_selected_comma) {
     EXPECT_EQ(w.txtvalor->text(), u"12,"_s);
 }
 
+TEST(money_field, the_prefixed_forms_of_the_receipt_and_the_service_order) {
+    struct row {
+        const char* typed;
+        bool empty_to_zero;
+        const char* on_leaving;
+    };
+    const row rows[] = {
+        {"1234,5", true, "R$ 1.234,50"},
+        {"", true, "R$ 00,00"},
+        {"", false, ""},
+        {",5", false, "R$ 00,00"}, // the leading separator wins over the amount
+        {"abc", true, "abc"},
+        {"99999999999999999999", true, "99999999999999999999"},
+    };
+    for (const row& r : rows) {
+        SCOPED_TRACE(r.typed);
+        value_window w;
+        w.txtvalor->set_leaving_prefix(u"R$ "_s, r.empty_to_zero);
+        w.txtvalor->setText(QString::fromUtf8(r.typed));
+        w.leave();
+        EXPECT_EQ(w.txtvalor->text(), QString::fromUtf8(r.on_leaving));
+    }
+    // coming back shows the plain number: the prefix is read, never doubled
+    value_window w;
+    w.txtvalor->set_leaving_prefix(u"R$ "_s, true);
+    w.txtvalor->setText(u"R$ 1.234,50"_s);
+    w.leave();
+    w.txtvalor->setFocus();
+    EXPECT_EQ(w.txtvalor->text(), u"1.234,50"_s);
+}
+
 TEST(money_field, alt_keys_type_nothing) {
     value_window w;
     keys::alt(w.txtvalor, 'c');
