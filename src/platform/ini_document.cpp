@@ -5,9 +5,14 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <atomic>
+
 namespace platform {
 
 namespace {
+
+std::atomic<int> reads{0};
+std::atomic<int> writes{0};
 
 QString unescape(const QString& v) {
     QString out;
@@ -135,13 +140,23 @@ void ini_document::set(const QString& section, const QString& key, const QString
     s->lines.push_back({QString(), key, value});
 }
 
+int ini_reads() {
+    return reads;
+}
+
+int ini_writes() {
+    return writes;
+}
+
 ini_document read_ini(const QString& path, bool escaped) {
+    ++reads;
     QFile f(path);
     if (!f.open(QIODevice::ReadOnly)) return ini_document::parse(QByteArray(), escaped);
     return ini_document::parse(f.readAll(), escaped);
 }
 
 bool write_ini(const QString& path, const ini_document& doc) {
+    ++writes;
     QDir().mkpath(QFileInfo(path).absolutePath());
     QSaveFile f(path);
     if (!f.open(QIODevice::WriteOnly)) return false;

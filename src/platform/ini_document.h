@@ -43,4 +43,8 @@ private:
 ini_document read_ini(const QString& path, bool escaped);
 bool write_ini(const QString& path, const ini_document& doc);
 
+// How many files the process has read and written so far (bench and tests).
+int ini_reads();
+int ini_writes();
+
 } // namespace platform

@@ -6,11 +6,15 @@
 #include <QRegularExpression>
 #include <QStringView>
 
+#include <cmath>
+
 namespace sql {
 
 namespace {
-// A private-use character stands for an apostrophe that came with a value.
-constexpr char16_t poison = u'\uE000';
+// The mark put before an apostrophe that came with a value: a lone surrogate, which is no
+// character at all. No keyboard, paste, file or data file read (all decoded from UTF-8) can bring
+// one in, so marking never takes a character away from what the user typed.
+constexpr char16_t poison = 0xDC00;
 
 bool is_name_char(QChar c) {
     return c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char('.') || c == QLatin1Char('[') ||
@@ -146,15 +150,15 @@ QString fold_like_literals(const QString& s) {
 }
 
 QString value(const QString& v) {
-    if (!v.contains(QLatin1Char('\'')) && !v.contains(QChar(poison))) return v;
+    if (!v.contains(QLatin1Char('\''))) return v;
     QString out = v;
-    out.replace(QChar(poison), QString());
     out.replace(QLatin1Char('\''), QString(QChar(poison)) + QLatin1Char('\''));
     return out;
 }
 
 QString value(double v) {
-    if (v == double(static_cast<long long>(v))) return QString::number(static_cast<long long>(v));
+    // the range test first: converting a double the integer cannot hold is undefined
+    if (std::fabs(v) < 9.2e18 && v == std::trunc(v)) return QString::number(static_cast<long long>(v));
     return QString::number(v, 'g', 15);
 }
 
@@ -163,7 +167,16 @@ QString value(long long v) {
 }
 
 bool has_poisoned_value(const QString& statement) {
-    return statement.contains(QChar(poison));
+    // a lone surrogate that is no mark fails too: UTF-8 cannot hold it, so the store would get
+    // another text than the one given
+    for (qsizetype i = 0; i < statement.size(); ++i) {
+        const QChar c = statement[i];
+        if (c.isHighSurrogate() && i + 1 < statement.size() && statement[i + 1].isLowSurrogate())
+            ++i;
+        else if (c.isSurrogate())
+            return true;
+    }
+    return false;
 }
 
 QString without_marks(const QString& statement) {
