@@ -65,6 +65,21 @@ TEST(hostile_text, years_are_written_with_four_digits_so_text_order_is_date_orde
         EXPECT_LT(vb::ymd(dates[i - 1]), vb::ymd(dates[i])) << vb::ymd(dates[i - 1]).toStdString();
 }
 
+TEST(hostile_text, like_after_the_and_of_a_between_stays_as_written) {
+    const QString fold = u"(quintara_fold(origem) = quintara_fold('x'))"_s;
+    const struct {
+        QString in, out;
+    } cases[] = {
+        {u"SELECT * FROM pagar WHERE Valor BETWEEN 0 AND origem like 'x'"_s, {}},
+        {u"SELECT * FROM pagar WHERE data BETWEEN '1' AND '2' AND origem like 'x'"_s,
+         u"SELECT * FROM pagar WHERE data BETWEEN '1' AND '2' AND "_s + fold},
+        {u"SELECT * FROM pagar WHERE (a BETWEEN 1 AND 2) AND origem like ('x')"_s,
+         u"SELECT * FROM pagar WHERE (a BETWEEN 1 AND 2) AND "_s + fold},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(sql::fold_like_literals(c.in), c.out.isEmpty() ? c.in : c.out);
+}
+
 class hostile_sql : public support::fixture {};
 
 TEST_F(hostile_sql, every_value_reaches_the_store_as_typed_or_its_statement_fails) {

@@ -7,6 +7,7 @@
 #include <QStringView>
 
 #include <cmath>
+#include <vector>
 
 namespace sql {
 
@@ -101,17 +102,43 @@ QString fold_like_literals(const QString& s) {
     QString out;
     qsizetype copied = 0;
     bool in_text = false;
+    // The AND of `x BETWEEN a AND b` is no opener: `x BETWEEN a AND name like 't'` compares
+    // (x BETWEEN a AND name) with 't', LIKE and BETWEEN binding alike from the left.
+    std::vector<int> open_betweens(1, 0); // per bracket depth
+    std::vector<qsizetype> between_ands;
     for (qsizetype i = 0; i < s.size(); ++i) {
         if (s[i] == QLatin1Char('\'')) {
             in_text = !in_text;
             continue;
         }
-        if (in_text || !starts_word(s, i, QLatin1String("like"))) continue;
+        if (in_text) continue;
+        if (s[i] == QLatin1Char('(')) {
+            open_betweens.push_back(0);
+            continue;
+        }
+        if (s[i] == QLatin1Char(')')) {
+            if (open_betweens.size() > 1) open_betweens.pop_back();
+            continue;
+        }
+        if (starts_word(s, i, QLatin1String("between"))) {
+            ++open_betweens.back();
+            continue;
+        }
+        if (starts_word(s, i, QLatin1String("and")) && open_betweens.back() > 0) {
+            --open_betweens.back();
+            between_ands.push_back(i);
+            continue;
+        }
+        if (!starts_word(s, i, QLatin1String("like"))) continue;
         // the column before LIKE, and what stands before it
         const QStringView name = word_before(s, i);
         if (!is_column_name(name)) continue;
         const qsizetype name_start = name.data() - s.constData();
-        if (!opens_term(word_before(s, name_start))) continue;
+        const QStringView opener = word_before(s, name_start);
+        if (!opens_term(opener)) continue;
+        if (!opener.isEmpty() && !between_ands.empty() &&
+            between_ands.back() == opener.data() - s.constData())
+            continue;
         // the text after it, bare or in brackets
         qsizetype j = i + 4;
         while (j < s.size() && is_blank(s[j]))
