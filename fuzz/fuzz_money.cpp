@@ -39,7 +39,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const vb::currency m = vb::money_of(text);
     if (overflow) fuzz::require(m.raw() == 0, "money_of of an overflow is not zero", text);
-    (void)vb::reformat_money_text(text);
+    try {
+        const QString shown = vb::reformat_money_text(text);
+        fuzz::require(overflow == false, "reformat_money_text took an amount past the range", text);
+        if (shown != text)
+            fuzz::require(vb::ccur(text).has_value(), "unreadable text was changed", text, shown);
+    } catch (const vb::overflow_error&) {
+        fuzz::require(overflow, "reformat_money_text overflows what ccur reads", text);
+    }
     if (const auto d = vb::cdbl(text)) {
         (void)vb::format_money(*d);
         (void)vb::format_fixed(*d, 2, true);

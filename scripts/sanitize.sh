@@ -40,5 +40,7 @@ fuzz_one() {
 }
 export -f fuzz_one
 export FUZZ_SECONDS
+# the layout, settings and report targets write files for each input: memory spares the disk
+if [ -w /dev/shm ]; then export TMPDIR=/dev/shm; fi
 printf '%s\n' "${TARGETS[@]}" | xargs -P "$FUZZ_JOBS" -I{} bash -c 'fuzz_one {}'
 echo "== no finding"

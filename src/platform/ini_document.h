@@ -23,9 +23,10 @@ public:
 
 private:
     struct line {
-        QString raw; // as read, for comments and blank lines
+        QString raw; // as read: a line nobody changed is written back as it came
         QString key; // empty for non-entries
         QString value;
+        bool changed = false;
     };
     struct section_block {
         QString name;

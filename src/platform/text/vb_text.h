@@ -54,7 +54,7 @@ QString format_money(double v);
 // Format(x, "R$ #,##0.00") with any prefix: the minus goes before the prefix (-R$ 120,00).
 QString format_money_prefixed(currency v, const QString& prefix = QStringLiteral("R$ "));
 // A stored amount text turned into the display text ("1234,5" -> "1.234,50"); text that
-// cannot be read stays as it is.
+// cannot be read stays as it is. An amount past the currency's range throws overflow_error.
 QString reformat_money_text(const QString& text);
 
 // Format(x, "0.00") style with a fixed number of decimals and no grouping (1234,50).
