@@ -3,6 +3,7 @@
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
+#include "platform/widgets/list_view.h"
 #include "store/names.h"
 #include "support/fixture.h"
 
@@ -78,6 +79,15 @@ TEST(hostile_text, like_after_the_and_of_a_between_stays_as_written) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(sql::fold_like_literals(c.in), c.out.isEmpty() ? c.in : c.out);
+}
+
+TEST(hostile_text, any_width_of_a_layout_file_becomes_a_pixel_width) {
+    const struct {
+        double twips;
+        int pixels;
+    } cases[] = {{1440, 96}, {1319.811, 88}, {0, 0}, {3.4e38, 100000}, {-3.4e38, -100000}};
+    for (const auto& c : cases)
+        EXPECT_EQ(list_view::twips_to_pixels(c.twips), c.pixels) << c.twips;
 }
 
 class hostile_sql : public support::fixture {};
