@@ -94,7 +94,8 @@ class hostile_sql : public support::fixture {};
 
 TEST_F(hostile_sql, every_value_reaches_the_store_as_typed_or_its_statement_fails) {
     auto c = sql::connection::open(path(u"dados.qntbd"_s), store::senha_dados.toUtf8());
-    const QString names[] = {u"Caixa"_s, u"Caixa\uE000"_s, u"\uE000"_s, u"Cai\uE000xa"_s, u"Caixa 😀"_s};
+    const QString names[] = {u"Caixa"_s,       u"Caixa\uE000"_s, u"\uE000"_s,
+                             u"Cai\uE000xa"_s, u"Caixa 😀"_s,     u"\U00100000"_s};
     for (const QString& n : names) {
         sql::recordset rs;
         rs.open(u"banco"_s, c, sql::keyset, sql::pessimistic);
@@ -120,6 +121,14 @@ TEST_F(hostile_sql, every_value_reaches_the_store_as_typed_or_its_statement_fail
         EXPECT_THROW(c->execute(u"INSERT INTO banco (banco) VALUES ('"_s + sql::value(n) + u"')"_s),
                      sql::error);
     EXPECT_TRUE(rows(u"SELECT banco FROM banco"_s).isEmpty());
+    // the message shows the statement as written, characters whose half looks like a mark included
+    const QString shown = u"\U00100000'"_s;
+    try {
+        c->execute(u"SELECT * FROM banco where(banco like '"_s + sql::value(shown) + u"')"_s);
+        ADD_FAILURE() << "ran";
+    } catch (const sql::error& e) {
+        EXPECT_TRUE(e.description().contains(u"like '"_s + shown + u"')"_s));
+    }
 }
 
 } // namespace

@@ -207,8 +207,12 @@ bool has_poisoned_value(const QString& statement) {
 }
 
 QString without_marks(const QString& statement) {
-    QString s = statement;
-    return s.remove(QChar(poison));
+    // the mark's code unit is also the second half of real characters (U+100000): those stay
+    QString s;
+    s.reserve(statement.size());
+    for (qsizetype i = 0; i < statement.size(); ++i)
+        if (statement[i] != QChar(poison) || (i > 0 && statement[i - 1].isHighSurrogate())) s += statement[i];
+    return s;
 }
 
 QString jet_dialect(const QString& statement) {
