@@ -20,6 +20,8 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev poppler-utils python3 python3-aiosmtpd xvfb xauth
   # lint
   clang-format clang-tidy
+  # the sanitizer run (scripts/sanitize.sh): clang and its libFuzzer for the fuzz targets
+  clang libclang-rt-14-dev
 )
 
 $SUDO apt-get update -qq

@@ -5,9 +5,14 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <atomic>
+
 namespace platform {
 
 namespace {
+
+std::atomic<int> reads{0};
+std::atomic<int> writes{0};
 
 QString unescape(const QString& v) {
     QString out;
@@ -52,7 +57,9 @@ ini_document ini_document::parse(const QByteArray& utf8, bool escaped) {
     const QString text = QString::fromUtf8(utf8);
     const auto lines = text.split(QLatin1Char('\n'));
     for (QString l : lines) {
-        if (l.endsWith(QLatin1Char('\r'))) l.chop(1);
+        // line ends of any system, doubled ones too: a rewrite must read the same
+        while (l.endsWith(QLatin1Char('\r')))
+            l.chop(1);
         const QString t = l.trimmed();
         if (t.startsWith(QLatin1Char('[')) && t.endsWith(QLatin1Char(']'))) {
             doc.sections_.push_back({t.mid(1, t.size() - 2), {}});
@@ -94,6 +101,9 @@ QByteArray ini_document::serialize() const {
         for (const auto& l : s.lines) {
             if (l.key.isEmpty()) {
                 if (!l.raw.trimmed().isEmpty()) out += l.raw + QLatin1Char('\n');
+            } else if (!l.changed) {
+                // quotes and blanks around a value read back the same only as they were written
+                out += l.raw + QLatin1Char('\n');
             } else {
                 out += l.key + QLatin1Char('=') + (escaped_ ? escape(l.value) : l.value) + QLatin1Char('\n');
             }
@@ -130,18 +140,29 @@ void ini_document::set(const QString& section, const QString& key, const QString
     for (auto& l : s->lines)
         if (!l.key.isEmpty() && l.key.compare(key, Qt::CaseInsensitive) == 0) {
             l.value = value;
+            l.changed = true;
             return;
         }
-    s->lines.push_back({QString(), key, value});
+    s->lines.push_back({QString(), key, value, true});
+}
+
+int ini_reads() {
+    return reads;
+}
+
+int ini_writes() {
+    return writes;
 }
 
 ini_document read_ini(const QString& path, bool escaped) {
+    ++reads;
     QFile f(path);
     if (!f.open(QIODevice::ReadOnly)) return ini_document::parse(QByteArray(), escaped);
     return ini_document::parse(f.readAll(), escaped);
 }
 
 bool write_ini(const QString& path, const ini_document& doc) {
+    ++writes;
     QDir().mkpath(QFileInfo(path).absolutePath());
     QSaveFile f(path);
     if (!f.open(QIODevice::WriteOnly)) return false;

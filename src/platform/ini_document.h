@@ -23,9 +23,10 @@ public:
 
 private:
     struct line {
-        QString raw; // as read, for comments and blank lines
+        QString raw; // as read: a line nobody changed is written back as it came
         QString key; // empty for non-entries
         QString value;
+        bool changed = false;
     };
     struct section_block {
         QString name;
@@ -42,5 +43,9 @@ private:
 // through a temporary file, so a failed write leaves the old file.
 ini_document read_ini(const QString& path, bool escaped);
 bool write_ini(const QString& path, const ini_document& doc);
+
+// How many files the process has read and written so far (bench and tests).
+int ini_reads();
+int ini_writes();
 
 } // namespace platform

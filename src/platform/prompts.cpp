@@ -26,6 +26,7 @@ void set_prompts(prompts* p) {
 
 int scripted_prompts::msgbox(const QString& text, int style, const QString& title) {
     records_.push_back({QStringLiteral("msgbox"), title, text, style, {}});
+    boxes_.push_back(records_.back());
     if (!answers_.empty()) {
         const int a = answers_.front();
         answers_.pop_front();
@@ -57,13 +58,6 @@ QString scripted_prompts::save_file(const QString& title, const QString& filter,
     QString t = texts_.front();
     texts_.pop_front();
     return t;
-}
-
-std::vector<scripted_prompts::record> scripted_prompts::boxes() const {
-    std::vector<record> out;
-    for (const auto& r : records_)
-        if (r.kind == QLatin1String("msgbox")) out.push_back(r);
-    return out;
 }
 
 } // namespace platform

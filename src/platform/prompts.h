@@ -71,12 +71,17 @@ public:
     void answer(int a) { answers_.push_back(a); }
     void answer_text(const QString& t) { texts_.push_back(t); }
     const std::vector<record>& records() const { return records_; }
-    void clear() { records_.clear(); }
-    // The records of message boxes only.
-    std::vector<record> boxes() const;
+    void clear() {
+        records_.clear();
+        boxes_.clear();
+    }
+    // The records of message boxes only, kept as they come so that a reference into them lives as
+    // long as the prompts do.
+    const std::vector<record>& boxes() const { return boxes_; }
 
 private:
     std::vector<record> records_;
+    std::vector<record> boxes_;
     std::deque<int> answers_;
     std::deque<QString> texts_;
 };

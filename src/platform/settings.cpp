@@ -37,17 +37,32 @@ void save_setting(const QString& app, const QString& section, const QString& key
     write_ini(path, doc); // a settings write never fails visibly
 }
 
+profile_file::profile_file(const QString& arquivo) : arquivo_(arquivo), doc_(read_ini(arquivo, false)) {}
+
+QString profile_file::lerini(const QString& secao, const QString& chave, const QString& padrao) const {
+    return doc_.get(secao, chave).value_or(padrao).left(254);
+}
+
+void profile_file::gravarini(const QString& secao, const QString& chave, const QString& valor) {
+    QString v = valor;
+    v.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
+    doc_.set(secao, chave, v);
+    mudou_ = true;
+}
+
+void profile_file::gravar() {
+    if (mudou_) write_ini(arquivo_, doc_);
+    mudou_ = false;
+}
+
 QString lerini(const QString& secao, const QString& chave, const QString& padrao, const QString& arquivo) {
-    const QString v = read_ini(arquivo, false).get(secao, chave).value_or(padrao);
-    return v.left(254);
+    return profile_file(arquivo).lerini(secao, chave, padrao);
 }
 
 void gravarini(const QString& secao, const QString& chave, const QString& valor, const QString& arquivo) {
-    ini_document doc = read_ini(arquivo, false);
-    QString v = valor;
-    v.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
-    doc.set(secao, chave, v);
-    write_ini(arquivo, doc);
+    profile_file f(arquivo);
+    f.gravarini(secao, chave, valor);
+    f.gravar();
 }
 
 } // namespace platform

@@ -3,6 +3,8 @@
 // found without regard to case; every read goes to the file, so nothing is cached.
 // The file is $XDG_CONFIG_HOME/<application>/<application>.ini.
 
+#include "platform/ini_document.h"
+
 #include <QString>
 
 namespace platform {
@@ -19,5 +21,21 @@ QString config_root();
 // characters as the fixed buffer of 255 did.
 QString lerini(const QString& secao, const QString& chave, const QString& padrao, const QString& arquivo);
 void gravarini(const QString& secao, const QString& chave, const QString& valor, const QString& arquivo);
+
+// A profile file read once for many keys in a row, and written back once: what lerini and
+// gravarini do key by key, at the cost of one pass over the file however many keys there are.
+class profile_file {
+public:
+    explicit profile_file(const QString& arquivo);
+    QString lerini(const QString& secao, const QString& chave, const QString& padrao) const;
+    void gravarini(const QString& secao, const QString& chave, const QString& valor);
+    // Writes the file when a key changed; a failed write is silent, as gravarini's is.
+    void gravar();
+
+private:
+    QString arquivo_;
+    ini_document doc_;
+    bool mudou_ = false;
+};
 
 } // namespace platform

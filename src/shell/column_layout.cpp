@@ -92,17 +92,17 @@ column_layout default_layout(ledger which) {
 
 column_layout read_layout(ledger which) {
     const auto& cols = ledger_columns(which);
-    const QString file = file_of(which);
+    const platform::profile_file file(file_of(which));
     column_layout l;
     for (const column_def& c : cols) {
-        const QString text = platform::lerini(secao_tamanho, c.key, c.default_width, file);
+        const QString text = file.lerini(secao_tamanho, c.key, c.default_width);
         l.widths.push_back(read_single(text).value_or(default_width(c)));
     }
     const int n = int(cols.size());
     for (std::size_t i = 0; i < cols.size(); ++i) {
         const int fallback = int(i) + 1;
         const std::optional<double> p =
-            vb::cdbl(platform::lerini(secao_posicao, position_key(i), QString::number(fallback), file));
+            vb::cdbl(file.lerini(secao_posicao, position_key(i), QString::number(fallback)));
         // a position outside the list cannot be assigned; the column keeps its place
         const double r = p ? std::nearbyint(*p) : 0.0;
         l.positions.push_back(p && r >= 1 && r <= n ? int(r) : fallback);
@@ -112,15 +112,16 @@ column_layout read_layout(ledger which) {
 
 void write_layout(ledger which, const column_layout& layout) {
     const auto& cols = ledger_columns(which);
-    const QString file = file_of(which);
+    platform::profile_file file(file_of(which));
     for (std::size_t i = 0; i < cols.size(); ++i) {
         const double w = i < layout.widths.size() ? layout.widths[i] : default_width(cols[i]);
-        platform::gravarini(secao_tamanho, cols[i].key, single_text(w), file);
+        file.gravarini(secao_tamanho, cols[i].key, single_text(w));
     }
     for (std::size_t i = 0; i < cols.size(); ++i) {
         const int p = i < layout.positions.size() ? layout.positions[i] : int(i) + 1;
-        platform::gravarini(secao_posicao, position_key(i), QString::number(p), file);
+        file.gravarini(secao_posicao, position_key(i), QString::number(p));
     }
+    file.gravar();
 }
 
 } // namespace shell

@@ -2,6 +2,7 @@
 
 #include "platform/clock.h"
 #include "platform/prompts.h"
+#include "store/column_types.h"
 #include "store/config.h"
 #include "store/program_dir.h"
 
@@ -17,6 +18,7 @@ QString ultimo_erro;
 bool abrir(const QString& caminho, const QString& senha) {
     try {
         conexao = sql::connection::open(caminho, senha.toUtf8());
+        conexao->set_column_check(check_column);
         return true;
     } catch (const sql::error& e) {
         conexao.reset();

@@ -101,3 +101,21 @@ TEST_F(column_layout, corrupt_files_and_values_fall_back_to_the_defaults) {
     EXPECT_EQ(l.positions[3], 3);
     EXPECT_EQ(l.positions[4], 7);
 }
+
+// A layout file costs one read to load and one read and one write to save, whatever its size.
+TEST_F(column_layout, a_layout_is_read_and_written_in_one_pass) {
+    QByteArray big = "[TAMANHO]\ndata=2000\n";
+    for (int i = 0; i < 20000; ++i)
+        big += "lixo" + QByteArray::number(i) + "=x\n";
+    write_file(u"pagar.ini"_s, big);
+    const int reads = platform::ini_reads(), writes = platform::ini_writes();
+    shell::column_layout l = shell::read_layout(ledger::pagar);
+    EXPECT_EQ(l.widths[1], 2000.0);
+    EXPECT_EQ(platform::ini_reads() - reads, 1);
+    l.widths[1] = 1500;
+    shell::write_layout(ledger::pagar, l);
+    EXPECT_EQ(platform::ini_reads() - reads, 2);
+    EXPECT_EQ(platform::ini_writes() - writes, 1);
+    EXPECT_EQ(shell::read_layout(ledger::pagar).widths[1], 1500.0);
+    EXPECT_TRUE(read_file(u"pagar.ini"_s).contains(u"lixo19999=x"_s));
+}

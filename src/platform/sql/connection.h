@@ -3,7 +3,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QVariant>
 
+#include <functional>
 #include <memory>
 
 struct sqlite3;
@@ -40,9 +42,16 @@ public:
     sqlite3* handle() const { return db_; }
     QString last_error() const;
 
+    // What a column accepts, as the old file's column types decided: called for each value a
+    // record set writes (table, column, value); throwing sql::error refuses the whole row.
+    using column_check = std::function<void(const QString&, const QString&, const QVariant&)>;
+    void set_column_check(column_check c) { check_ = std::move(c); }
+    const column_check& check() const { return check_; }
+
 private:
     explicit connection(sqlite3* db) : db_(db) {}
     sqlite3* db_ = nullptr;
+    column_check check_;
 };
 
 using connection_ptr = std::shared_ptr<connection>;

@@ -6,11 +6,16 @@
 #include <QRegularExpression>
 #include <QStringView>
 
+#include <cmath>
+#include <vector>
+
 namespace sql {
 
 namespace {
-// A private-use character stands for an apostrophe that came with a value.
-constexpr char16_t poison = u'\uE000';
+// The mark put before an apostrophe that came with a value: a lone surrogate, which is no
+// character at all. No keyboard, paste, file or data file read (all decoded from UTF-8) can bring
+// one in, so marking never takes a character away from what the user typed.
+constexpr char16_t poison = 0xDC00;
 
 bool is_name_char(QChar c) {
     return c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char('.') || c == QLatin1Char('[') ||
@@ -97,17 +102,43 @@ QString fold_like_literals(const QString& s) {
     QString out;
     qsizetype copied = 0;
     bool in_text = false;
+    // The AND of `x BETWEEN a AND b` is no opener: `x BETWEEN a AND name like 't'` compares
+    // (x BETWEEN a AND name) with 't', LIKE and BETWEEN binding alike from the left.
+    std::vector<int> open_betweens(1, 0); // per bracket depth
+    std::vector<qsizetype> between_ands;
     for (qsizetype i = 0; i < s.size(); ++i) {
         if (s[i] == QLatin1Char('\'')) {
             in_text = !in_text;
             continue;
         }
-        if (in_text || !starts_word(s, i, QLatin1String("like"))) continue;
+        if (in_text) continue;
+        if (s[i] == QLatin1Char('(')) {
+            open_betweens.push_back(0);
+            continue;
+        }
+        if (s[i] == QLatin1Char(')')) {
+            if (open_betweens.size() > 1) open_betweens.pop_back();
+            continue;
+        }
+        if (starts_word(s, i, QLatin1String("between"))) {
+            ++open_betweens.back();
+            continue;
+        }
+        if (starts_word(s, i, QLatin1String("and")) && open_betweens.back() > 0) {
+            --open_betweens.back();
+            between_ands.push_back(i);
+            continue;
+        }
+        if (!starts_word(s, i, QLatin1String("like"))) continue;
         // the column before LIKE, and what stands before it
         const QStringView name = word_before(s, i);
         if (!is_column_name(name)) continue;
         const qsizetype name_start = name.data() - s.constData();
-        if (!opens_term(word_before(s, name_start))) continue;
+        const QStringView opener = word_before(s, name_start);
+        if (!opens_term(opener)) continue;
+        if (!opener.isEmpty() && !between_ands.empty() &&
+            between_ands.back() == opener.data() - s.constData())
+            continue;
         // the text after it, bare or in brackets
         qsizetype j = i + 4;
         while (j < s.size() && is_blank(s[j]))
@@ -146,15 +177,15 @@ QString fold_like_literals(const QString& s) {
 }
 
 QString value(const QString& v) {
-    if (!v.contains(QLatin1Char('\'')) && !v.contains(QChar(poison))) return v;
+    if (!v.contains(QLatin1Char('\''))) return v;
     QString out = v;
-    out.replace(QChar(poison), QString());
     out.replace(QLatin1Char('\''), QString(QChar(poison)) + QLatin1Char('\''));
     return out;
 }
 
 QString value(double v) {
-    if (v == double(static_cast<long long>(v))) return QString::number(static_cast<long long>(v));
+    // the range test first: converting a double the integer cannot hold is undefined
+    if (std::fabs(v) < 9.2e18 && v == std::trunc(v)) return QString::number(static_cast<long long>(v));
     return QString::number(v, 'g', 15);
 }
 
@@ -163,12 +194,25 @@ QString value(long long v) {
 }
 
 bool has_poisoned_value(const QString& statement) {
-    return statement.contains(QChar(poison));
+    // a lone surrogate that is no mark fails too: UTF-8 cannot hold it, so the store would get
+    // another text than the one given
+    for (qsizetype i = 0; i < statement.size(); ++i) {
+        const QChar c = statement[i];
+        if (c.isHighSurrogate() && i + 1 < statement.size() && statement[i + 1].isLowSurrogate())
+            ++i;
+        else if (c.isSurrogate())
+            return true;
+    }
+    return false;
 }
 
 QString without_marks(const QString& statement) {
-    QString s = statement;
-    return s.remove(QChar(poison));
+    // the mark's code unit is also the second half of real characters (U+100000): those stay
+    QString s;
+    s.reserve(statement.size());
+    for (qsizetype i = 0; i < statement.size(); ++i)
+        if (statement[i] != QChar(poison) || (i > 0 && statement[i - 1].isHighSurrogate())) s += statement[i];
+    return s;
 }
 
 QString jet_dialect(const QString& statement) {

@@ -229,6 +229,9 @@ void recordset::set(const QString& name, const QVariant& v) {
 void recordset::update() {
     if (mode_ == edit_mode::none) return;
     ensure_writable();
+    if (conn_->check())
+        for (const auto& [i, v] : pending_)
+            conn_->check()(table_, names_[std::size_t(i)], v);
     QStringList cols;
     for (const auto& [i, v] : pending_)
         cols << quote_ident(names_[std::size_t(i)]);

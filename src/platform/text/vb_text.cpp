@@ -1,7 +1,9 @@
 #include "platform/text/vb_text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <string>
 
@@ -115,8 +117,26 @@ struct parsed_number {
     bool negative = false;
     std::string int_digits;
     std::string frac_digits;
-    int exponent = 0;
+    std::int64_t exponent = 0;
 };
+
+// An exponent: sign and digits. One far beyond any double is held at a bound that keeps its
+// meaning (all digits gone, or overflow) without ever being counted out digit by digit.
+std::optional<std::int64_t> read_exponent(QStringView t) {
+    constexpr std::int64_t bound = std::int64_t(1) << 40;
+    bool negative = false;
+    if (!t.isEmpty() && (t.front() == QLatin1Char('-') || t.front() == QLatin1Char('+'))) {
+        negative = t.front() == QLatin1Char('-');
+        t = t.mid(1);
+    }
+    if (t.isEmpty()) return std::nullopt;
+    std::int64_t e = 0;
+    for (QChar c : t) {
+        if (c.unicode() < '0' || c.unicode() > '9') return std::nullopt;
+        e = std::min(bound, e * 10 + (c.unicode() - '0'));
+    }
+    return negative ? -e : e;
+}
 
 std::optional<parsed_number> parse_locale_number(const QString& text) {
     QString s = text.trimmed();
@@ -156,9 +176,9 @@ std::optional<parsed_number> parse_locale_number(const QString& text) {
     if (i < s.size()) {
         const QChar c = s[i];
         if ((c == QLatin1Char('e') || c == QLatin1Char('E')) && any_digit) {
-            bool ok = false;
-            n.exponent = s.mid(i + 1).toInt(&ok);
-            if (!ok) return std::nullopt;
+            const auto e = read_exponent(QStringView(s).mid(i + 1));
+            if (!e) return std::nullopt;
+            n.exponent = *e;
         } else {
             return std::nullopt;
         }
@@ -249,26 +269,26 @@ namespace {
 parsed_currency parse_currency(const QString& text) {
     const auto n = parse_locale_number(text);
     if (!n) return {};
-    std::string ints = n->int_digits, frac = n->frac_digits;
-    // shift by the exponent
-    if (n->exponent > 0) {
-        for (int k = 0; k < n->exponent; ++k) {
-            ints += frac.empty() ? '0' : frac[0];
-            if (!frac.empty()) frac.erase(0, 1);
-        }
-    } else if (n->exponent < 0) {
-        for (int k = 0; k < -n->exponent; ++k) {
-            frac.insert(frac.begin(), ints.empty() ? '0' : ints.back());
-            if (!ints.empty()) ints.pop_back();
-        }
-    }
-    frac.append(5, '0');
+    // the value is 0.<digits> x 10^point; the exponent only moves the point, so the work stays
+    // bounded by the length of the text whatever the exponent says
+    std::string digits = n->int_digits + n->frac_digits;
+    std::int64_t point = std::int64_t(n->int_digits.size()) + n->exponent;
+    const std::size_t lead = digits.find_first_not_of('0');
+    if (lead == std::string::npos) return {currency(), false};
+    digits.erase(0, lead);
+    point -= std::int64_t(lead);
+    // 10^19 ten-thousandths is past the type's range; below the fifth decimal all rounds to zero
+    if (point > 15) return {std::nullopt, true};
+    if (point < -4) return {currency(), false};
     // four decimals kept, the fifth rounds half to even
-    std::string digits = ints + frac.substr(0, 4);
-    const char fifth = frac[4];
-    const bool rest_nonzero = frac.find_first_not_of('0', 5) != std::string::npos;
+    const std::size_t kept = std::size_t(point + 4);
+    std::string whole = digits.substr(0, kept);
+    whole.append(kept - whole.size(), '0');
+    const char fifth = kept < digits.size() ? digits[kept] : '0';
+    const bool rest_nonzero =
+        kept + 1 < digits.size() && digits.find_first_not_of('0', kept + 1) != std::string::npos;
     std::uint64_t mag = 0;
-    for (char c : digits) {
+    for (char c : whole) {
         if (__builtin_mul_overflow(mag, std::uint64_t(10), &mag) ||
             __builtin_add_overflow(mag, std::uint64_t(c - '0'), &mag))
             return {std::nullopt, true};
@@ -327,17 +347,16 @@ double val(const QString& text) {
     if (s.startsWith(QLatin1String("&H"), Qt::CaseInsensitive) ||
         s.startsWith(QLatin1String("&O"), Qt::CaseInsensitive)) {
         const int base = s[1].toUpper() == QLatin1Char('H') ? 16 : 8;
-        qint64 v = 0;
+        double v = 0;
         for (int i = 2; i < s.size(); ++i) {
-            const int d =
-                s[i].isDigit() ? s[i].digitValue()
-                : (base == 16 && s[i].toUpper() >= QLatin1Char('A') && s[i].toUpper() <= QLatin1Char('F'))
-                    ? s[i].toUpper().unicode() - 'A' + 10
-                    : -1;
+            const char16_t u = s[i].toUpper().unicode();
+            const int d = (u >= '0' && u <= '9')                 ? u - '0'
+                          : (base == 16 && u >= 'A' && u <= 'F') ? u - 'A' + 10
+                                                                 : -1;
             if (d < 0 || d >= base) break;
             v = v * base + d;
         }
-        return double(v);
+        return v;
     }
     std::string num;
     int i = 0;
@@ -478,6 +497,12 @@ QString two(int v) {
     return QStringLiteral("%1").arg(v, 2, 10, QLatin1Char('0'));
 }
 
+// A year always has four digits, so that stored dates keep their text order (0100/01/01).
+QString four(int year) {
+    const QString digits = QStringLiteral("%1").arg(std::abs(year), 4, 10, QLatin1Char('0'));
+    return year < 0 ? QLatin1Char('-') + digits : digits;
+}
+
 } // namespace
 
 QString month_name(int month, bool abbreviated) {
@@ -544,7 +569,7 @@ QString format_datetime(const QDateTime& dt, const QString& fmt) {
             if (run <= 2)
                 out += two(d.year() % 100);
             else
-                out += QString::number(d.year());
+                out += four(d.year());
             after_hour = false;
         } else if (c == QLatin1Char('h')) {
             out += run == 1 ? QString::number(t.hour()) : two(t.hour());

@@ -250,7 +250,9 @@ double list_view::pixels_to_twips(int px, const QWidget* w) {
 }
 
 int list_view::twips_to_pixels(double twips, const QWidget* w) {
-    return int(std::lround(twips / twips_per_pixel(w)));
+    // a layout file may hold any width: held to what a screen can show before it becomes an int
+    constexpr double widest = 100000;
+    return int(std::lround(std::clamp(twips / twips_per_pixel(w), -widest, widest)));
 }
 
 void list_view::add_column(const QString& text, double width_twips, int tag, Qt::Alignment align) {
