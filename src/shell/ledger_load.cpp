@@ -1,6 +1,7 @@
 #include "shell/ledger_load.h"
 
 #include "platform/errors.h"
+#include "shell/ledger_statement.h"
 #include "store/conexao.h"
 #include "store/names.h"
 
@@ -242,7 +243,7 @@ ledger_view load_ledger(ledger which, const QString& consulta, const std::functi
     try {
         store::conectarbanco();
         sql::recordset rs;
-        rs.open(consulta, store::conexao, sql::keyset, sql::read_only);
+        rs.open(bounds_in_order(consulta), store::conexao, sql::keyset, sql::read_only);
         if (rs.eof()) {
             ledger_view v;
             v.label = empty_label(which);

@@ -3,6 +3,8 @@
 #include "platform/sql/jet_dialect.h"
 #include "platform/text/vb_text.h"
 
+#include <QRegularExpression>
+
 namespace shell {
 
 using namespace Qt::StringLiterals;
@@ -19,6 +21,23 @@ QDate date_serial(int year, int month, int day) {
     const int carry = m0 >= 0 ? m0 / 12 : -((11 - m0) / 12);
     const int m = m0 - carry * 12 + 1;
     return QDate(year + carry, m, 1).addDays(day - 1);
+}
+
+QString bounds_in_order(const QString& statement) {
+    static const QRegularExpression between(u"\\bBETWEEN\\s+'([^']*)'\\s+AND\\s+'([^']*)'"_s,
+                                            QRegularExpression::CaseInsensitiveOption);
+    QString out;
+    qsizetype last = 0;
+    for (auto it = between.globalMatch(statement); it.hasNext();) {
+        const auto m = it.next();
+        QString lo = m.captured(1), hi = m.captured(2);
+        if (QString::compare(lo, hi, Qt::CaseSensitive) > 0) std::swap(lo, hi);
+        out += QStringView(statement).mid(last, m.capturedStart() - last);
+        out += u"BETWEEN '"_s + lo + u"' AND '"_s + hi + u'\'';
+        last = m.capturedEnd();
+    }
+    out += QStringView(statement).mid(last);
+    return out;
 }
 
 built_statement entry_statement(ledger which, const entry_filters& f, const QDate& hoje,

@@ -49,6 +49,11 @@ built_statement entry_statement(ledger which, const entry_filters& f, const QDat
 built_statement movement_statement(const movement_filters& f, const QDate& hoje,
                                    const QString& sqlatual_anterior);
 
+// The text the list opens: the lists' "próximos" and "mês" filters write the later day first,
+// which the old store read as the same range; SQLite wants the earlier day first. Only these
+// statements are turned: elsewhere reversed dates find no rows.
+QString bounds_in_order(const QString& statement);
+
 // DateSerial: month and day outside their range carry into the year and the next month
 // (month 0 is December of the year before; the 31st of February is early March).
 QDate date_serial(int year, int month, int day);

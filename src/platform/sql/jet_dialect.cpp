@@ -218,25 +218,9 @@ QString without_marks(const QString& statement) {
 QString jet_dialect(const QString& statement) {
     static const QRegularExpression delete_star(QStringLiteral("^\\s*delete\\s+\\*\\s+from\\b"),
                                                 QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression between(QStringLiteral("\\bBETWEEN\\s+'([^']*)'\\s+AND\\s+'([^']*)'"),
-                                            QRegularExpression::CaseInsensitiveOption);
     QString s = fold_like_literals(statement);
     s.replace(delete_star, QStringLiteral("DELETE FROM"));
-    if (!s.contains(between)) return s;
-    // The old database took BETWEEN's bounds in either order; SQLite wants the lower first.
-    QString out;
-    qsizetype last = 0;
-    auto it = between.globalMatch(s);
-    while (it.hasNext()) {
-        const auto m = it.next();
-        QString lo = m.captured(1), hi = m.captured(2);
-        if (QString::compare(lo, hi, Qt::CaseSensitive) > 0) std::swap(lo, hi);
-        out += s.mid(last, m.capturedStart() - last);
-        out += QStringLiteral("BETWEEN '") + lo + QStringLiteral("' AND '") + hi + QLatin1Char('\'');
-        last = m.capturedEnd();
-    }
-    out += s.mid(last);
-    return out;
+    return s;
 }
 
 } // namespace sql

@@ -18,7 +18,7 @@ bool has_poisoned_value(const QString& statement);
 // The statement without the marks, as the user would have written it (for error texts).
 QString without_marks(const QString& statement);
 
-// Delete * from -> DELETE FROM; BETWEEN with its literal bounds in reverse order -> in order;
+// Delete * from -> DELETE FROM;
 // in a SELECT, `name like ('text')` with no wildcard in the text -> fold_like_literals below.
 QString jet_dialect(const QString& statement);
 
