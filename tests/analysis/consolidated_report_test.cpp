@@ -74,7 +74,12 @@ TEST_F(consolidated_report, dates_first_then_the_centre_then_the_report) {
     filho<date_field>(w, "cbodata1c")->set_text(u"11/11/2026"_s);
     filho<date_field>(w, "cbodata2c")->set_text(u"11/11/2026"_s);
     filho<QPushButton>(w, "cmdcentrocusto")->click(); // "Aluguel extra" is not "Aluguel"
-    ASSERT_EQ(prompts_.boxes().size(), 3u);
+    // reversed dates find nothing: the store reads BETWEEN with the earlier day first
+    filho<date_field>(w, "cbodata1c")->set_text(u"23/11/2026"_s);
+    filho<date_field>(w, "cbodata2c")->set_text(u"10/11/2026"_s);
+    filho<QPushButton>(w, "cmdcentrocusto")->click();
+    ASSERT_EQ(prompts_.boxes().size(), 4u);
+    EXPECT_EQ(prompts_.boxes()[3].text, u"A pesquisa não retornou resultados!"_s);
     EXPECT_EQ(prompts_.boxes()[0].text, u"As datas que deseja filtrar devem ser definidas!"_s);
     EXPECT_EQ(prompts_.boxes()[0].title, u"Erro"_s);
     EXPECT_EQ(prompts_.boxes()[1].text, u"O centro de custo deve ser selecionado!"_s);
