@@ -3,12 +3,12 @@
 // the rendered page), the preview, and the report's messages.
 
 #include "platform/print/printer.h"
-#include "support/key_input.h"
 #include "registers/labels.h"
 #include "registers/ui/frmConfEtiqueta.h"
 #include "registers/ui/frmcontatos.h"
 #include "shell/principal_api.h"
 #include "support/fixture.h"
+#include "support/key_input.h"
 #include "support/pdf_read.h"
 
 #include <QAction>

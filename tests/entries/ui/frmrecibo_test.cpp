@@ -3,9 +3,9 @@
 
 #include "entries/recibo.h"
 #include "entries/ui/frmrecibo.h"
-#include "support/window_fixture.h"
 #include "platform/print/printer.h"
 #include "support/pdf_read.h"
+#include "support/window_fixture.h"
 
 using namespace Qt::Literals::StringLiterals;
 
