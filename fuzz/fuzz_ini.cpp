@@ -48,7 +48,7 @@ void check_document(const QByteArray& bytes, bool escaped) {
 }
 
 void check_layout(const QByteArray& bytes) {
-    write_file(store::program_path(shell::layout_file_name(shell::ledger::pagar)), bytes);
+    write_file(store::program_path(shell::traits(shell::ledger::pagar).layout), bytes);
     shell::column_layout l = shell::read_layout(shell::ledger::pagar);
     // a saved layout reads back the same, up to the seven digits a width is written with
     for (int round = 0; round < 2; ++round) {

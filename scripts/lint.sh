@@ -8,7 +8,7 @@ build="${1:-build}"
 if [ ! -f "$build/compile_commands.json" ]; then
   cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 fi
-mapfile -t files < <(find src tests bench tools -name '*.cpp' -o -name '*.h' | sort)
+mapfile -t files < <(find src tests bench tools fuzz -name '*.cpp' -o -name '*.h' | sort)
 echo "clang-format: ${#files[@]} files"
 clang-format --dry-run -Werror "${files[@]}"
 echo "clang-tidy: the sources of src/ and tools/"
