@@ -89,8 +89,8 @@ double grade_etiquetas::x(long long n) const {
 }
 
 double grade_etiquetas::y(long long n) const {
-    const long long pos = n % por_folha();
-    return topo + double(pos / colunas) * altura;
+    const long long linha = (n % por_folha()) / colunas; // whole rows above the label
+    return topo + double(linha) * altura;
 }
 
 std::optional<grade_etiquetas> montar_grade(const config_etiquetas& c, double largura_papel,

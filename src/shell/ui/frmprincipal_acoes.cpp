@@ -96,11 +96,13 @@ void frmprincipal::montar_acoes() {
         });
     }
     // The receipt reads the selected row by its code (0 when its list has none); enabled with its window.
-    for (const auto& [nome, lista] : {std::pair{QStringLiteral("recibopagar"), lstpagar},
-                                      std::pair{QStringLiteral("reciboreceber"), lstreceber}}) {
+    for (const auto& recibo : {std::pair{QStringLiteral("recibopagar"), lstpagar},
+                               std::pair{QStringLiteral("reciboreceber"), lstreceber}}) {
+        const QString nome = recibo.first;
+        list_view* const l = recibo.second;
         acoes_.add(
             nome,
-            [this, nome, l = lista] {
+            [this, nome, l] {
                 const int row = shell::linha_selecionada(l);
                 codigoselecionado = row >= 0 ? vb::val(l->text(row, 0)) : 0;
                 shell::run_action(nome);
