@@ -49,6 +49,10 @@ resultado_login decidir_login(bool ha_usuarios, const QString& nome, const QStri
     return procurar() ? resultado_login::aceito : resultado_login::recusado;
 }
 
+resultado_login conferir_login(const QString& nome, const QString& senha) {
+    return decidir_login(ha_usuarios(), nome, senha, [&] { return usuario_existe(nome, senha); });
+}
+
 aviso_login aviso_de(resultado_login r) {
     switch (r) {
     case resultado_login::sem_usuarios:

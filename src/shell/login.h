@@ -47,6 +47,10 @@ enum class resultado_login {
 resultado_login decidir_login(bool ha_usuarios, const QString& nome, const QString& senha,
                               const std::function<bool()>& procurar);
 
+// The login steps of both login windows on the current connection: decidir_login on the table of
+// users. Throws sql::error when the table of users cannot be read at all.
+resultado_login conferir_login(const QString& nome, const QString& senha);
+
 // What a login window shows for an outcome (title titulo_login; nothing when the text is empty),
 // and whether it is put on top again: not after a forbidden character, nor once the user is in.
 struct aviso_login {

@@ -1,5 +1,7 @@
 #include "shell/main_menu.h"
 
+#include <initializer_list>
+
 namespace shell {
 
 namespace {
@@ -216,6 +218,41 @@ const std::vector<toolbar_entry>& main_toolbar() {
         e("sair", "Sair", "mnusair"),
     };
     return bar;
+}
+
+QString icon_of(const QString& name) {
+    static const struct {
+        const char* icon;
+        std::initializer_list<const char*> names;
+    } icons[] = {
+        {"system-users", {"clientes", "mnuclientes", "mnuconflogin"}},
+        {"x-office-address-book", {"fornecedores", "mnufornecedores"}},
+        {"x-office-calendar", {"comp", "mnucomp", "mnucal"}},
+        {"x-office-document", {"relatorios", "mnuretint"}},
+        {"x-office-presentation", {"graficos"}},
+        {"x-office-spreadsheet", {"estatisticas", "mnuestsoftware"}},
+        {"help-contents", {"manual", "mnumanual"}},
+        {"help-about", {"sobre", "mnusoftware"}},
+        {"dialog-information", {"mnumostrardicadia"}},
+        {"application-exit", {"sair", "mnusair"}},
+        {"list-add",
+         {"mnucaddespesas", "mnucadrececeber", "mnucadbancario", "mnucadbancos", "cmdadicionard",
+          "cmdadicionarr", "cmdadicionarm", "cmdadicionarb"}},
+        {"document-properties", {"cmdalterard", "cmdalterarr", "cmdalterarm", "cmdalterarb"}},
+        {"list-remove", {"cmdremoverd", "cmdremoverr", "cmdremoverm", "cmdremoverb"}},
+        {"document-print", {"cmdrecibod", "cmdrecibor"}},
+        {"preferences-system", {"mnuconfigsoft", "cmdconfbanc"}},
+        {"system-lock-screen", {"mnubloquearsoft"}},
+        {"document-save", {"mnurealizarbak"}},
+        {"document-open", {"mnurestbak"}},
+        {"accessories-calculator", {"mnucalc", "mnujurosdesc", "mnujurosparcelas"}},
+        {"accessories-text-editor", {"mnunotepad"}},
+        {"mail-send", {"mnuretviaemail", "mnuestviaemail"}},
+    };
+    for (const auto& i : icons)
+        for (const char* n : i.names)
+            if (name == QLatin1String(n)) return QString::fromLatin1(i.icon);
+    return {};
 }
 
 QString maker_page(const QString& menu_item) {

@@ -27,6 +27,10 @@ struct toolbar_entry {
 
 const std::vector<toolbar_entry>& main_toolbar();
 
+// The icon of a toolbar key, a menu item or a tab's button, as a name of the desktop's icon
+// theme (the program carries its own picture for each); empty for none.
+QString icon_of(const QString& name);
+
 // The maker's pages.
 inline const QString site_base = QStringLiteral("https://www.quintara.com.br");
 QString maker_page(const QString& menu_item); // empty when the item opens no page

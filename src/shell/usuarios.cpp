@@ -15,10 +15,6 @@ QString pergunta_remover_usuario(const QString& nome) {
            QStringLiteral(" e todos os seus produtos do banco de dados?");
 }
 
-resultado_login conferir_login(const QString& nome, const QString& senha) {
-    return decidir_login(ha_usuarios(), nome, senha, [&] { return usuario_existe(nome, senha); });
-}
-
 QString comando_usuarios() {
     return QStringLiteral("SELECT * FROM login");
 }

@@ -1,6 +1,6 @@
 #pragma once
-// The users of the program apart from their windows: the login steps the lock repeats, and the
-// upkeep of the table login with its statements and messages.
+// The users of the program apart from their windows: the upkeep of the table login with its
+// statements and messages (the login itself is shell/login.h).
 
 #include "platform/sql/recordset.h"
 #include "shell/login.h"
@@ -21,10 +21,6 @@ inline const QString texto_ultimo_usuario =
     QStringLiteral("Não é possível remover este usuário, o sistema não pode ficar sem usuários!");
 // The question before a removal; "produtos" is how it has always read.
 QString pergunta_remover_usuario(const QString& nome);
-
-// The login steps on the current connection, after the topmost switch: decidir_login on the table
-// of users. Throws sql::error when the table of users cannot be read at all.
-resultado_login conferir_login(const QString& nome, const QString& senha);
 
 // The statements of the user manager.
 QString comando_usuarios();

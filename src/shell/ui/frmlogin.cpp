@@ -1,9 +1,10 @@
 #include "shell/ui/frmlogin.h"
 
 #include "platform/prompts.h"
+#include "platform/sql/recordset.h"
 #include "platform/widgets/field_helpers.h"
+#include "shell/login.h"
 #include "shell/ui/frmprincipal.h"
-#include "shell/usuarios.h"
 #include "store/conexao.h"
 
 #include <QApplication>
@@ -18,8 +19,11 @@
 namespace {
 frmlogin* the_login = nullptr;
 
-// Unloading the login window unloads every window and so ends the program.
+// Unloading the login window unloads every window and so ends the program. The main window may be
+// hidden behind the lock: it is closed as on any other close, which keeps the lists' layout.
 void descarregar_tudo() {
+    if (frmprincipal::exists() && frmprincipal::instance()->carregado())
+        frmprincipal::instance()->descarregar();
     QApplication::closeAllWindows();
     QCoreApplication::quit();
 }
@@ -113,8 +117,9 @@ void frmlogin::abrir() {
 }
 
 void frmlogin::entrar_no_principal() {
-    frmprincipal::instance()->mostrar();
+    // hidden first: the main window's opening may take a while on a big file
     hide();
+    frmprincipal::instance()->mostrar();
 }
 
 void frmlogin::cmdentrar_click() {

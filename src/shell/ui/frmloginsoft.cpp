@@ -1,11 +1,12 @@
 #include "shell/ui/frmloginsoft.h"
 
 #include "platform/prompts.h"
+#include "platform/sql/recordset.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/form_builders.h"
+#include "shell/login.h"
 #include "shell/principal_api.h"
 #include "shell/ui/frmlogin.h"
-#include "shell/usuarios.h"
 #include "store/conexao.h"
 
 #include <QApplication>

@@ -7,11 +7,14 @@
 #include "platform/text/vb_text.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/list_view.h"
+#include "platform/widgets/theme_icon.h"
 #include "shell/filter_state.h"
 #include "shell/login.h"
+#include "shell/main_menu.h"
 #include "shell/ui/frmalerta.h"
 #include "shell/ui/frmdica.h"
 #include "shell/ui/frmlogin.h"
+#include "shell/ui/frmloginsoft.h"
 #include "store/conexao.h"
 #include "store/config.h"
 #include "store/program_dir.h"
@@ -64,7 +67,9 @@ private:
 };
 
 QPushButton* button(const char* name, const char* caption) {
-    return named(new QPushButton(QString::fromUtf8(caption)), name);
+    auto* b = named(new QPushButton(QString::fromUtf8(caption)), name);
+    b->setIcon(theme_icon(shell::icon_of(b->objectName())));
+    return b;
 }
 
 QComboBox* filter_box(const char* name, const QStringList& entries) {
@@ -260,9 +265,14 @@ void frmprincipal::mostrar() {
     const bool primeira = !carregado_;
     if (primeira) {
         carregado_ = true;
+        restaurar_geometria();
+        // on a big file the lists take a while to fill: the window is already on the screen, and
+        // the waiting window over it, while they do
+        show();
+        raise();
+        activateWindow();
+        QCoreApplication::processEvents();
         abrir();
-        if (QScreen* s = QGuiApplication::primaryScreen())
-            move(s->availableGeometry().center() - QPoint(width() / 2, height() / 2));
     }
     show();
     raise();
@@ -393,14 +403,28 @@ void frmprincipal::tab_mudou(int index) {
     });
 }
 
-void frmprincipal::closeEvent(QCloseEvent* e) {
-    fechando_ = true;
-    platform::ignore_errors([this] { SalvarColuna(); });
-    e->accept();
-    desligar();
+void frmprincipal::restaurar_geometria() {
+    const QByteArray salva =
+        QByteArray::fromBase64(store::setting(store::secao_config, chave_geometria, QString()).toLatin1());
+    if (!salva.isEmpty() && restoreGeometry(salva)) return;
+    if (QScreen* s = QGuiApplication::primaryScreen())
+        move(s->availableGeometry().center() - QPoint(width() / 2, height() / 2));
 }
 
-void frmprincipal::desligar() {
+void frmprincipal::closeEvent(QCloseEvent* e) {
+    e->accept();
+    descarregar();
+}
+
+void frmprincipal::descarregar() {
+    fechando_ = true;
+    platform::ignore_errors([this] { SalvarColuna(); });
+    platform::ignore_errors([this] {
+        store::save_setting(store::secao_config, chave_geometria,
+                            QString::fromLatin1(saveGeometry().toBase64()));
+    });
+    hide();
+    frmloginsoft::descarregar();
     frmlogin::descarregar();
     QCoreApplication::quit();
 }

@@ -39,6 +39,10 @@ public:
     static bool exists();
     ~frmprincipal() override;
 
+    // The one way out, by the close box, mnusair or the lock: keeps the lists' layout and the
+    // window's place, unloads the login windows and ends the program.
+    void descarregar();
+
     // Makes the window visible; the first time runs its opening.
     void mostrar();
     bool carregado() const { return carregado_; }
@@ -49,6 +53,9 @@ public:
     void carregar_filtros(shell::ledger which) override;
     void carregar_bancos() override { carregarbancos(); }
     void mostrar_aba(shell::ledger which) override;
+
+    // The settings key (section Configurações) of the window's size and position.
+    static inline const QString chave_geometria = QStringLiteral("GeometriaJanelaPrincipal");
 
     QString ordempagar;
     QString ordemreceber;
@@ -218,6 +225,9 @@ private:
 
     // Opening and activation
     void abrir();
+    // The size and position of the last session, kept in the user's settings under a key of the
+    // program's own; the first time, the middle of the screen.
+    void restaurar_geometria();
     void ativar();
     void VerificarDica();
     void tab_mudou(int index);
@@ -226,7 +236,6 @@ private:
     void mnuexibirprincipal_click();
     void mnuiniciar_click();
     void mnulogininiciar_click();
-    void desligar();
 
     shell::action_table acoes_;
     QHash<QString, QAction*> items_;

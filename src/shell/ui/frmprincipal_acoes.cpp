@@ -6,9 +6,12 @@
 #include "platform/prompts.h"
 #include "platform/shell.h"
 #include "platform/text/vb_text.h"
+#include "platform/widgets/combo_text.h"
 #include "platform/widgets/frmcarregando.h"
+#include "platform/widgets/key_actions.h"
 #include "platform/widgets/list_view.h"
 #include "shell/list_actions.h"
+#include "shell/list_keys.h"
 #include "shell/main_menu.h"
 #include "shell/popup_menus.h"
 #include "shell/ui/frmdica.h"
@@ -51,6 +54,11 @@ const struct {
     {"popbaixareceber", &frmprincipal::popbaixareceber},
     {"multiplospagar", &frmprincipal::multiplospagar},
     {"multiplosreceber", &frmprincipal::multiplosreceber},
+    // the loaders, which F5 runs on a list
+    {"carregarpagar", &frmprincipal::carregarpagar},
+    {"carregarreceber", &frmprincipal::carregarreceber},
+    {"carregarbancario", &frmprincipal::carregarbancario},
+    {"carregarbancos", &frmprincipal::carregarbancos},
     // the add items of the main menu
     {"mnucaddespesas", &frmprincipal::adicionarpagar},
     {"mnucadrececeber", &frmprincipal::adicionarreceber},
@@ -215,7 +223,7 @@ void frmprincipal::aplicar_popup(const popup_entry& e) {
             if (x.menu == e.menu && x.kind == e.kind)
                 if (QAction* a = acao_de(this, x)) a->setChecked(x.name == e.name);
     if (f.filtro && f.recarregar) {
-        (this->*controles_de(*f.recarregar).filtro.member)->setCurrentText(*f.filtro);
+        set_box_text(this->*controles_de(*f.recarregar).filtro.member, *f.filtro);
         salvar_filtros(*f.recarregar);
     }
     if (f.recarregar) platform::ignore_errors([&] { carregar(*f.recarregar); });
@@ -333,4 +341,11 @@ void frmprincipal::ligar_acoes() {
     for (ledger which : shell::all_ledgers)
         ligar_lista(lista(which), shell::traits(which).alterar, shell::traits(which).popup);
     ligar_lista(lstcaixabanco, QStringLiteral("alterarbanco"), QStringLiteral("popcaixa"));
+    // Insert, Enter, Delete and F5 on a list run what its tab's buttons and its loader run
+    for (const shell::list_routines& r : shell::main_list_routines()) {
+        std::vector<key_actions::binding> teclas;
+        for (int tecla : {Qt::Key_Insert, Qt::Key_Return, Qt::Key_Delete, Qt::Key_F5})
+            teclas.push_back({tecla, [this, nome = shell::routine_for_key(r, tecla)] { acoes_.run(nome); }});
+        key_actions::install(findChild<list_view*>(r.lista), std::move(teclas));
+    }
 }

@@ -1,5 +1,6 @@
 // The three ledger lists of the main window: their columns, filter boxes, loads and layout.
 #include "platform/clock.h"
+#include "platform/widgets/combo_text.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/frmcarregando.h"
 #include "platform/widgets/list_view.h"
@@ -26,7 +27,7 @@ void preencher(QComboBox* box, const QStringList& entradas) {
     const QString texto = box->currentText();
     box->clear();
     box->addItems(entradas);
-    box->setCurrentText(texto);
+    set_box_text(box, texto);
 }
 
 } // namespace
@@ -182,17 +183,17 @@ void frmprincipal::CarregarDados() {
     for (ledger which : {ledger::pagar, ledger::receber}) {
         const controles& c = controles_de(which);
         const shell::entry_filters f = shell::read_entry_filters(which);
-        (this->*c.tipo.member)->setCurrentText(f.tipo);
-        (this->*c.filtro.member)->setCurrentText(f.filtro);
-        (this->*c.baseado.member)->setCurrentText(f.baseado);
-        (this->*c.banco.member)->setCurrentText(f.banco);
-        (this->*c.centro.member)->setCurrentText(f.centro);
-        (this->*c.contato.member)->setCurrentText(f.contato);
+        set_box_text(this->*c.tipo.member, f.tipo);
+        set_box_text(this->*c.filtro.member, f.filtro);
+        set_box_text(this->*c.baseado.member, f.baseado);
+        set_box_text(this->*c.banco.member, f.banco);
+        set_box_text(this->*c.centro.member, f.centro);
+        set_box_text(this->*c.contato.member, f.contato);
     }
     const shell::movement_filters m = shell::read_movement_filters();
-    cbotipom->setCurrentText(m.tipo);
-    cbofiltrom->setCurrentText(m.filtro);
-    cboorgm->setCurrentText(m.organizar);
+    set_box_text(cbotipom, m.tipo);
+    set_box_text(cbofiltrom, m.filtro);
+    set_box_text(cboorgm, m.organizar);
     (m.ascendente ? optascm : optdescm)->setChecked(true);
 }
 

@@ -2,6 +2,7 @@
 // and the menu items that act on this window itself.
 #include "platform/autostart.h"
 #include "platform/prompts.h"
+#include "platform/widgets/theme_icon.h"
 #include "shell/main_menu.h"
 #include "shell/ui/frmprincipal.h"
 #include "shell/usuarios.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -39,17 +41,27 @@ void frmprincipal::montar_menus() {
         auto* a = new QAction(e.caption, this);
         a->setObjectName(e.name);
         a->setCheckable(e.checkable);
+        if (!e.checkable) a->setIcon(theme_icon(shell::icon_of(e.name)));
         if (parent) parent->addAction(a);
         items_.insert(e.name, a);
         ligar(a, e.name);
     }
+    // F10 opens the first menu, from where the arrows reach every other; Alt alone marks the bar
+    // (the menu bar's own conduct), so the captions need no letters of their own
+    auto* f10 = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    f10->setObjectName(QStringLiteral("teclaf10"));
+    connect(f10, &QShortcut::activated, this, [this] {
+        const QList<QAction*> menus = menuBar()->actions();
+        if (!menus.isEmpty()) menuBar()->setActiveAction(menus.first());
+    });
 }
 
 void frmprincipal::montar_toolbar() {
     tbrbarra = addToolBar(QStringLiteral("Barra"));
     tbrbarra->setObjectName(QStringLiteral("tbrbarra"));
     tbrbarra->setMovable(false);
-    tbrbarra->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    tbrbarra->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    tbrbarra->setIconSize(QSize(24, 24));
     for (const auto& e : shell::main_toolbar()) {
         if (!e.dropdown.isEmpty()) {
             QToolButton* holder = toolbar_buttons_.value(e.dropdown);
@@ -63,6 +75,8 @@ void frmprincipal::montar_toolbar() {
         auto* b = new QToolButton;
         b->setObjectName(e.key);
         b->setText(e.caption);
+        b->setIcon(theme_icon(shell::icon_of(e.key)));
+        b->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         b->setAutoRaise(true);
         if (e.menu_item.isEmpty()) {
             b->setMenu(new QMenu(b));

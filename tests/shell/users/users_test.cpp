@@ -6,7 +6,9 @@
 #include "shell/usuarios.h"
 #include "support/window_fixture.h"
 
+#include <QFile>
 #include <QListWidget>
+#include <QPointer>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -91,9 +93,12 @@ TEST_F(users, locked_with_no_users_the_warning_opens_the_program_and_unloads_the
     EXPECT_EQ(frmloginsoft::aberto(), nullptr);
 }
 
-TEST_F(users, cancelling_or_closing_the_lock_unloads_the_first_window_and_ends_the_program) {
+TEST_F(users, cancelling_or_closing_the_lock_ends_the_program_as_a_close_of_the_main_window) {
     for (bool pela_caixa : {false, true}) {
-        frmloginsoft* w = bloquear();
+        // the hidden main window is closed as on any close: its lists' layout is kept
+        QFile::remove(path(u"pagar.ini"_s));
+        p->lstpagar->set_column_width(2, pela_caixa ? 2500 : 3000);
+        QPointer<frmloginsoft> w = bloquear();
         QTimer::singleShot(0, w, [w, pela_caixa] {
             if (pela_caixa)
                 w->close();
@@ -106,12 +111,28 @@ TEST_F(users, cancelling_or_closing_the_lock_unloads_the_first_window_and_ends_t
         QObject::connect(&guarda, &QTimer::timeout, [] { QCoreApplication::exit(99); });
         guarda.start(5000);
         EXPECT_EQ(QCoreApplication::exec(), 0) << pela_caixa;
-        EXPECT_FALSE(w->isVisible());
         EXPECT_FALSE(p->isVisible());
         frmlogin::descarregar();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(w) << pela_caixa;
+        QFile f(path(u"pagar.ini"_s));
+        ASSERT_TRUE(f.open(QIODevice::ReadOnly)) << pela_caixa;
+        EXPECT_TRUE(f.readAll().contains(pela_caixa ? "descricao=2500" : "descricao=3000"));
     }
     EXPECT_TRUE(prompts_.boxes().empty());
+}
+
+TEST_F(users, closing_the_main_window_unloads_the_lock_window) {
+    usuario(u"Maria"_s, u"x"_s);
+    frmloginsoft* w = bloquear();
+    w->txtusuario->setText(u"Maria"_s);
+    w->txtsenha->setText(u"x"_s);
+    w->cmdentrar->click();
+    // unlocked, the lock stays loaded and hidden until the program ends
+    ASSERT_EQ(frmloginsoft::aberto(), w);
+    p->close();
+    settle();
+    EXPECT_EQ(frmloginsoft::aberto(), nullptr);
 }
 
 TEST_F(users, the_manager_lists_loads_by_containing_name_and_shows_the_option) {
