@@ -95,7 +95,7 @@ TEST_F(users, locked_with_no_users_the_warning_opens_the_program_and_unloads_the
 
 TEST_F(users, cancelling_or_closing_the_lock_ends_the_program_as_a_close_of_the_main_window) {
     for (bool pela_caixa : {false, true}) {
-        // the hidden main window is closed as on any close: its lists' layout is kept
+        // the hidden main window is closed as on any close: its lists' layout is kept, the lock unloaded
         QFile::remove(path(u"pagar.ini"_s));
         p->lstpagar->set_column_width(2, pela_caixa ? 2500 : 3000);
         QPointer<frmloginsoft> w = bloquear();
@@ -120,19 +120,6 @@ TEST_F(users, cancelling_or_closing_the_lock_ends_the_program_as_a_close_of_the_
         EXPECT_TRUE(f.readAll().contains(pela_caixa ? "descricao=2500" : "descricao=3000"));
     }
     EXPECT_TRUE(prompts_.boxes().empty());
-}
-
-TEST_F(users, closing_the_main_window_unloads_the_lock_window) {
-    usuario(u"Maria"_s, u"x"_s);
-    frmloginsoft* w = bloquear();
-    w->txtusuario->setText(u"Maria"_s);
-    w->txtsenha->setText(u"x"_s);
-    w->cmdentrar->click();
-    // unlocked, the lock stays loaded and hidden until the program ends
-    ASSERT_EQ(frmloginsoft::aberto(), w);
-    p->close();
-    settle();
-    EXPECT_EQ(frmloginsoft::aberto(), nullptr);
 }
 
 TEST_F(users, the_manager_lists_loads_by_containing_name_and_shows_the_option) {
