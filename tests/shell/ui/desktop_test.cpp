@@ -92,12 +92,14 @@ TEST_F(desktop, a_restored_box_stands_on_its_entry_so_the_arrows_move_from_it) {
 
 TEST_F(desktop, the_toolbar_and_the_main_actions_carry_icons_the_program_also_carries) {
     for (const auto& e : shell::main_toolbar())
-        if (e.dropdown.isEmpty())
+        if (e.dropdown.isEmpty()) {
             EXPECT_FALSE(p->findChild<QToolButton*>(e.key)->icon().isNull()) << e.key.toStdString();
+        }
     EXPECT_FALSE(p->cmdremoverm->icon().isNull());
     for (const auto& e : shell::main_menu())
-        if (const QString icone = shell::icon_of(e.name); !icone.isEmpty())
+        if (const QString icone = shell::icon_of(e.name); !icone.isEmpty()) {
             EXPECT_EQ(own_icon(icone).availableSizes().size(), 2) << icone.toStdString();
+        }
 }
 
 TEST_F(desktop, the_window_keeps_its_size_and_place_and_shows_before_its_lists_fill) {
