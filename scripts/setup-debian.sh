@@ -14,6 +14,8 @@ packages=(
   qt6-qpa-plugins
   # the data file, mail
   libsqlcipher-dev sqlcipher libssl-dev libcurl4-openssl-dev openssl
+  # bank statements in OFX (libofx7 brings the DTDs its parser needs)
+  libofx-dev
   # printed pages are laid out in Arial's metrics: Liberation is its metric-compatible twin
   fonts-liberation2 fonts-dejavu-core fontconfig
   # tests and benchmarks

@@ -99,6 +99,15 @@ std::vector<std::pair<QString, QString>> movement_columns(const movement_fields&
     };
 }
 
+void add_movement_row(sql::recordset& rs, const movement_fields& f, const QString& id_extrato) {
+    const auto columns = movement_columns(f);
+    rs.add_new();
+    for (const auto& [name, text] : columns)
+        rs.set(name, text);
+    if (!id_extrato.isEmpty()) rs.set(store::coluna::id_extrato, id_extrato);
+    rs.update();
+}
+
 QString movement_by_code(double codigo) {
     return QStringLiteral("SELECT * FROM bancario where(código like '") + sql::value(vb::cstr(codigo)) +
            QStringLiteral("')");
@@ -112,18 +121,15 @@ save_outcome save_movement(const movement_twin& twin, double codigo, const movem
         if (twin.adds_row) {
             rs.open(store::tabela::bancario, store::conexao, sql::keyset, sql::pessimistic);
             out.row_opened = true;
-            const auto columns = movement_columns(f);
-            rs.add_new();
-            for (const auto& [name, text] : columns)
-                rs.set(name, text);
+            add_movement_row(rs, f);
         } else {
             rs.open(movement_by_code(codigo), store::conexao, sql::keyset, sql::pessimistic);
             out.row_opened = true;
             const auto columns = movement_columns(f);
             for (const auto& [name, text] : columns)
                 rs.set(name, text);
+            rs.update();
         }
-        rs.update();
         rs.close();
         out.ok = true;
     } catch (const std::exception& e) {

@@ -3,6 +3,7 @@
 // field; the checks before writing and the texts of their messages. The adding and the editing
 // window are twins; what tells them apart is the data of movement_twin, not code.
 
+#include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
 
 #include <QString>
@@ -67,6 +68,10 @@ QString destino_to_write(const QString& movimento, const QString& destino);
 // The seven columns and their texts, in the order they are written. An amount or a date that
 // cannot be read throws (vb::type_mismatch, vb::overflow_error).
 std::vector<std::pair<QString, QString>> movement_columns(const movement_fields& f);
+
+// Adds one movement on a record set open for writing on bancario, as the adding window adds it;
+// an imported line also keeps its bank's id. Throws as movement_columns and the record set do.
+void add_movement_row(sql::recordset& rs, const movement_fields& f, const QString& id_extrato = {});
 
 // "SELECT * FROM bancario where(código like '12')"
 QString movement_by_code(double codigo);

@@ -31,6 +31,7 @@ const std::vector<menu_entry>& main_menu() {
         item("mnuprincipal", "mnucaddespesas", "Cadastar contas a pagar"),
         item("mnuprincipal", "mnucadrececeber", "Cadastrar contas a receber"),
         item("mnuprincipal", "mnucadbancario", "Cadastrar Movimento bancário"),
+        item("mnuprincipal", "mnuimportarextrato", "Importar extrato (OFX/CSV)…"),
         item("mnuprincipal", "mnucadbancos", "Cadastrar bancos e caixa"),
         sep("mnuprincipal"),
         item("mnuprincipal", "mnusair", "Sair"),

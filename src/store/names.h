@@ -16,6 +16,8 @@ inline const QString senha_dados = QStringLiteral("7qwtzbnr3p8c!&#°m");
 inline const QString secao_config = QStringLiteral("Configurações");
 inline const QString secao_relatorio = QStringLiteral("Configurações\\relatorio");
 inline const QString secao_configuracoes = QStringLiteral("configuracoes");
+// The program's own: how each account's statements are read.
+inline const QString secao_importacao = QStringLiteral("Configurações\\importacao");
 
 namespace tabela {
 inline const QString pagar = QStringLiteral("pagar");
@@ -58,6 +60,8 @@ inline const QString exigirlogin = QStringLiteral("exigirlogin");
 inline const QString hora = QStringLiteral("hora");
 inline const QString titulo = QStringLiteral("Titulo");
 inline const QString local = QStringLiteral("local");
+// The program's own: the bank's id of an imported statement line (bancario).
+inline const QString id_extrato = QStringLiteral("id_extrato");
 } // namespace coluna
 
 namespace palavra {

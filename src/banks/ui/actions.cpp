@@ -3,6 +3,7 @@
 #include "banks/ui/frmbanco.h"
 #include "banks/ui/frmconfextrato.h"
 #include "banks/ui/frmdatabanco.h"
+#include "banks/ui/frmimportarextrato.h"
 #include "banks/ui/frmsaldodia.h"
 #include "shell/principal_api.h"
 
@@ -16,6 +17,9 @@ void register_actions() {
     shell::register_action(QStringLiteral("frmsaldodia"), [] { frmsaldodia::instance()->mostrar(); });
     // the main menu and the account list's pop-up
     shell::register_action(QStringLiteral("mnuextrato"), [] { frmconfextrato::instance()->mostrar(); });
+    // statements downloaded from the bank
+    shell::register_action(QStringLiteral("mnuimportarextrato"),
+                           [] { frmimportarextrato::instance()->mostrar(); });
 }
 
 } // namespace banks
