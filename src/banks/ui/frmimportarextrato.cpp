@@ -211,13 +211,7 @@ bool frmimportarextrato::abrir_arquivo(const QString& caminho) {
         msgbox_over(this, erro_, platform::exclamation, titulo_erro);
         return false;
     }
-    if (tipo_ == tipo::csv) {
-        banks::csv_layout l = banks::detect_csv(texto_csv_);
-        const auto lembrado = banks::csv_layout::from_setting(
-            setting_importacao(banks::csv_setting_key(cboconta->currentText())));
-        if (lembrado) l = *lembrado;
-        mostrar_layout(l);
-    }
+    if (tipo_ == tipo::csv) mostrar_layout(layout_da_conta());
     atualizar_previa();
     if (!erro_.isEmpty()) {
         msgbox_over(this, erro_, platform::exclamation, titulo_erro);
@@ -228,12 +222,14 @@ bool frmimportarextrato::abrir_arquivo(const QString& caminho) {
 
 void frmimportarextrato::conta_escolhida() {
     if (preenchendo_ || tipo_ == tipo::nenhum) return;
-    if (tipo_ == tipo::csv) {
-        const auto lembrado = banks::csv_layout::from_setting(
-            setting_importacao(banks::csv_setting_key(cboconta->currentText())));
-        if (lembrado) mostrar_layout(*lembrado);
-    }
+    if (tipo_ == tipo::csv) mostrar_layout(layout_da_conta());
     atualizar_previa();
+}
+
+banks::csv_layout frmimportarextrato::layout_da_conta() const {
+    const auto lembrado =
+        banks::csv_layout::from_setting(setting_importacao(banks::csv_setting_key(cboconta->currentText())));
+    return lembrado ? *lembrado : banks::detect_csv(texto_csv_);
 }
 
 void frmimportarextrato::layout_mudou() {

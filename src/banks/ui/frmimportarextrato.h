@@ -54,6 +54,8 @@ private:
     // The CSV boxes from a layout, and back.
     void mostrar_layout(const banks::csv_layout& l);
     banks::csv_layout layout_escolhido() const;
+    // What the account's last CSV was read with, or what the file suggests.
+    banks::csv_layout layout_da_conta() const;
     // Reads the file again under the current choices and rebuilds the preview.
     void atualizar_previa();
     void mostrar_previa();
