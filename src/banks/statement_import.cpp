@@ -115,7 +115,9 @@ QString line_key(const QString& data_ymd, const QString& movimento, const QStrin
 }
 
 QString ymd_of_stored(const QString& data) {
-    // rows keep yyyy/mm/dd; settled-style dd/mm/yyyy is read too
+    // rows keep yyyy/mm/dd (taken as it stands: this runs for every row of the account);
+    // another form is read as a date
+    if (data.size() == 10 && data.at(4) == QLatin1Char('/') && data.at(7) == QLatin1Char('/')) return data;
     const QDate d = parse_date(data);
     return d.isValid() ? vb::ymd(d) : data;
 }

@@ -69,7 +69,8 @@ TEST_F(import_window, the_preview_then_the_import_then_nothing_new_the_second_ti
     prompts_.clear();
     w = abrir("conta_xml_utf8.ofx");
     w->importar();
-    EXPECT_EQ(prompts_.boxes().back().text, u"Todos os movimentos deste extrato já estão gravados; nada foi gravado."_s);
+    EXPECT_EQ(prompts_.boxes().back().text,
+              u"Todos os movimentos deste extrato já estão gravados; nada foi gravado."_s);
     EXPECT_EQ(rows(u"SELECT count(*) FROM bancario"_s), QStringList{u"5"_s});
 }
 
@@ -96,7 +97,8 @@ TEST_F(import_window, bad_files_and_another_bank_account_say_why_and_write_nothi
     delete frmimportarextrato::aberto();
     prompts_.clear();
     frmimportarextrato* w = abrir("conta_xml_utf8.ofx");
-    EXPECT_TRUE(w->lblresumo->text().contains(u"Escolha a conta certa"_s)) << qPrintable(w->lblresumo->text());
+    EXPECT_TRUE(w->lblresumo->text().contains(u"Escolha a conta certa"_s))
+        << qPrintable(w->lblresumo->text());
     w->importar();
     EXPECT_TRUE(prompts_.boxes().back().text.contains(u"98765-4"_s));
     EXPECT_EQ(rows(u"SELECT count(*) FROM bancario"_s), QStringList{u"6"_s});
