@@ -1,6 +1,7 @@
 #include "banks/ui/frmimportarextrato.h"
 
 #include "banks/movimento_bancario.h"
+#include "platform/busy.h"
 #include "platform/prompts.h"
 #include "platform/widgets/field_helpers.h"
 #include "platform/widgets/form_builders.h"
@@ -100,9 +101,9 @@ frmimportarextrato::frmimportarextrato() : QWidget(nullptr, Qt::Window) {
     lstprevia->add_column(QStringLiteral("Data"), 1300, list_view::tag_date);
     lstprevia->add_column(QStringLiteral("Movimento"), 1400);
     lstprevia->add_column(QStringLiteral("Valor"), 1500, list_view::tag_number, Qt::AlignRight);
-    lstprevia->add_column(QStringLiteral("Informações"), 4200);
+    lstprevia->add_column(QStringLiteral("Informações"), 4000);
     lstprevia->add_column(QStringLiteral("Estatus"), 1200);
-    lstprevia->add_column(QStringLiteral("Situação"), 2200);
+    lstprevia->add_column(QStringLiteral("Situação"), 2600);
     lblresumo = named(new QLabel, "lblresumo");
     lblresumo->setWordWrap(true);
     cmdimportar = named(new QPushButton(QStringLiteral("&Importar")), "cmdimportar");
@@ -165,6 +166,7 @@ frmimportarextrato::frmimportarextrato() : QWidget(nullptr, Qt::Window) {
     preenchendo_ = true;
     fill_names(cboconta, banks::account_names(banks::twin_editar()));
     preenchendo_ = false;
+    lblresumo->setText(QStringLiteral("Escolha a conta e o extrato baixado do banco (OFX ou CSV)."));
 }
 
 void frmimportarextrato::mostrar() {
@@ -174,7 +176,7 @@ void frmimportarextrato::mostrar() {
 void frmimportarextrato::procurar() {
     const QString caminho = platform::ask().open_file(
         QStringLiteral("Escolha o extrato do banco"),
-        QStringLiteral("Extratos (*.ofx;*.csv;*.txt)|*.ofx;*.csv;*.txt|Todos os arquivos (*.*)|*.*"),
+        QStringLiteral("Extratos bancários|*.ofx;*.OFX;*.csv;*.CSV;*.txt;*.TXT|Todos os arquivos|*"),
         caminho_);
     if (caminho.isEmpty()) return;
     abrir_arquivo(caminho);
@@ -186,6 +188,7 @@ bool frmimportarextrato::abrir_arquivo(const QString& caminho) {
     tipo_ = tipo::nenhum;
     texto_csv_.clear();
     ofx_ = {};
+    const platform::busy_span ampulheta;
     QFile f(caminho);
     if (!f.open(QIODevice::ReadOnly)) {
         erro_ = QStringLiteral("Não foi possível abrir o arquivo \"%1\": %2").arg(caminho, f.errorString());
@@ -276,6 +279,8 @@ banks::csv_layout frmimportarextrato::layout_escolhido() const {
 }
 
 void frmimportarextrato::atualizar_previa() {
+    // a statement of thousands of lines takes a moment to read and compare
+    const platform::busy_span ampulheta;
     previa_.clear();
     erro_.clear();
     const QString conta = cboconta->currentText();
@@ -307,9 +312,8 @@ void frmimportarextrato::mostrar_previa() {
     int repetidos = 0;
     for (const banks::preview_row& r : previa_) {
         repetidos += r.repetido ? 1 : 0;
-        linhas.push_back(
-            {r.data, r.movimento, r.valor, r.informacoes, store::palavra::concluido,
-             r.repetido ? QStringLiteral("Já existe: não será gravado") : QStringLiteral("Novo")});
+        linhas.push_back({r.data, r.movimento, r.valor, r.informacoes, store::palavra::concluido,
+                          r.repetido ? QStringLiteral("Já gravado: fica de fora") : QStringLiteral("Novo")});
     }
     lstprevia->clear_rows();
     lstprevia->add_rows(std::move(linhas));

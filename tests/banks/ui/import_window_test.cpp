@@ -63,7 +63,7 @@ TEST_F(import_window, the_preview_then_the_import_then_nothing_new_the_second_ti
         linha << p->lstcaixabanco->text(itau, c);
     EXPECT_TRUE(linha.contains(u"R$ 114,69"_s)) << qPrintable(linha.join(u'|'));
     // the preview now knows them, and importing again writes nothing
-    EXPECT_EQ(situacoes(w), QStringList(5, u"Já existe: não será gravado"_s));
+    EXPECT_EQ(situacoes(w), QStringList(5, u"Já gravado: fica de fora"_s));
     EXPECT_FALSE(w->cmdimportar->isEnabled());
     delete w;
     prompts_.clear();
