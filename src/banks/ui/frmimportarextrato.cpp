@@ -188,23 +188,27 @@ bool frmimportarextrato::abrir_arquivo(const QString& caminho) {
     tipo_ = tipo::nenhum;
     texto_csv_.clear();
     ofx_ = {};
-    const platform::busy_span ampulheta;
-    QFile f(caminho);
-    if (!f.open(QIODevice::ReadOnly)) {
-        erro_ = QStringLiteral("Não foi possível abrir o arquivo \"%1\": %2").arg(caminho, f.errorString());
-    } else {
-        const QByteArray bytes = f.readAll();
-        f.close();
-        const bool ofx = banks::looks_like_ofx(bytes) ||
-                         QFileInfo(caminho).suffix().compare(QLatin1String("ofx"), Qt::CaseInsensitive) == 0;
-        if (ofx) {
-            tipo_ = tipo::ofx;
-            ofx_ = banks::read_ofx(caminho);
-        } else if (bytes.contains('\0')) {
-            erro_ = QStringLiteral("O arquivo escolhido não é um extrato OFX nem CSV.");
+    {
+        const platform::busy_span ampulheta;
+        QFile f(caminho);
+        if (!f.open(QIODevice::ReadOnly)) {
+            erro_ =
+                QStringLiteral("Não foi possível abrir o arquivo \"%1\": %2").arg(caminho, f.errorString());
         } else {
-            tipo_ = tipo::csv;
-            texto_csv_ = banks::decode_text(bytes);
+            const QByteArray bytes = f.readAll();
+            f.close();
+            const bool ofx =
+                banks::looks_like_ofx(bytes) ||
+                QFileInfo(caminho).suffix().compare(QLatin1String("ofx"), Qt::CaseInsensitive) == 0;
+            if (ofx) {
+                tipo_ = tipo::ofx;
+                ofx_ = banks::read_ofx(caminho);
+            } else if (bytes.contains('\0')) {
+                erro_ = QStringLiteral("O arquivo escolhido não é um extrato OFX nem CSV.");
+            } else {
+                tipo_ = tipo::csv;
+                texto_csv_ = banks::decode_text(bytes);
+            }
         }
     }
     fracsv->setVisible(tipo_ == tipo::csv);
