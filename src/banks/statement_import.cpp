@@ -454,6 +454,7 @@ existing_movements read_existing(const QString& conta) {
     namespace col = store::coluna;
     existing_movements e;
     store::conectarbanco();
+    store::colunas_proprias();
     sql::recordset rs;
     rs.open(QStringLiteral(
                 "select data, movimento, informacoes, Valor, id_extrato from bancario where origem like '") +
@@ -523,6 +524,7 @@ import_outcome write_import(const QString& conta, const std::vector<preview_row>
     bool aberta = false;
     try {
         store::conectarbanco();
+        store::colunas_proprias();
         if (!store::conexao) {
             out.erro = QStringLiteral("Não foi possível abrir o arquivo de dados.");
             return out;

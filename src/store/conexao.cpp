@@ -47,19 +47,6 @@ void reconectarbanco(const QString& caminho, const QString& senha) {
     save_setting(secao_config, QStringLiteral("BackupID"), QStringLiteral("0"));
 }
 
-// Columns of the program's own, added to files made before them. Compiling a statement that names
-// the column is the test: it reads only the schema the connection already holds, so it costs next
-// to nothing once the column is there. A file that cannot take the column (read-only) still opens;
-// only the import fails on it.
-void colunas_proprias() {
-    try {
-        conexao->prepare(QStringLiteral("select id_extrato from bancario where 1 = 0"));
-    } catch (const sql::error&) {
-        platform::ignore_errors(
-            [] { conexao->execute(QStringLiteral("ALTER TABLE bancario ADD COLUMN id_extrato TEXT")); });
-    }
-}
-
 } // namespace
 
 QString caminho_dados(const QString& arquivo) {
@@ -72,8 +59,18 @@ void conectarbanco(const QString& arquivo, const QString& senha) {
     tentativasconexao = 0;
     const QString caminho = caminho_dados(arquivo);
     conexao.reset();
-    if (!abrir(caminho, senha)) reconectarbanco(caminho, senha);
-    if (conexao) colunas_proprias();
+    if (abrir(caminho, senha)) return;
+    reconectarbanco(caminho, senha);
+}
+
+void colunas_proprias() {
+    if (!conexao) return;
+    try {
+        conexao->prepare(QStringLiteral("select id_extrato from bancario where 1 = 0"));
+    } catch (const sql::error&) {
+        platform::ignore_errors(
+            [] { conexao->execute(QStringLiteral("ALTER TABLE bancario ADD COLUMN id_extrato TEXT")); });
+    }
 }
 
 void fecharconexao() {

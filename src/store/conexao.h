@@ -22,6 +22,13 @@ inline void conectarbanco() {
     conectarbanco(arquivo_dados, senha_dados);
 }
 
+// Adds the columns of the program's own to a file made before them (bancario.id_extrato), on
+// conexao. Only the statement import needs them, and only it calls this: every other path leaves
+// an older file as it is, byte for byte. Compiling a statement that names the column is the test,
+// so it costs next to nothing once the column is there; a file that cannot take it (read-only)
+// is left alone, and the import's own statements then fail with the engine's message.
+void colunas_proprias();
+
 // Closes conexao (the few callers that close it after their work).
 void fecharconexao();
 
