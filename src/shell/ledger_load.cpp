@@ -337,6 +337,8 @@ ledger_view load_ledger(ledger which, const QString& consulta, const std::functi
         } rows{src};
         walked w = walk(which, rows, 0);
         if (rows.failed) throw sql::error(store::conexao->last_error());
+        // the pages of a long list are not read again soon; the list holds what it needs
+        store::conexao->release_memory();
         return finish(which, std::move(w), src.order());
     } catch (const std::exception&) {
         ledger_view v;

@@ -135,6 +135,10 @@ std::shared_ptr<connection> connection::create(const QString& path, const QByteA
     return std::shared_ptr<connection>(new connection(db));
 }
 
+void connection::release_memory() {
+    sqlite3_db_release_memory(db_);
+}
+
 connection::~connection() {
     sqlite3_close_v2(db_);
 }
