@@ -54,6 +54,8 @@ std::optional<sorted_read> plan_sorted_read(const connection_ptr& conn, const QS
     static const QRegularExpression other_clauses(
         QStringLiteral("\\b(order|group|having|limit|offset|union|intersect|except|join|select)\\b|,|;"),
         QRegularExpression::CaseInsensitiveOption);
+    // a marked value fails the statement as written, with its own message
+    if (has_poisoned_value(statement)) return std::nullopt;
     const auto m = shape.match(statement);
     if (!conn || !m.hasMatch() || without_texts(m.captured(3)).contains(other_clauses)) return std::nullopt;
     sorted_read r;

@@ -1,3 +1,4 @@
+#include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
 #include "platform/sql/row_stream.h"
 #include "platform/sql/sorted_read.h"
@@ -85,6 +86,10 @@ TEST_F(sorted_read, only_whole_table_walks_of_an_index_on_the_column_are_read_in
         const QString s = QString::fromUtf16(c.statement);
         EXPECT_EQ(sql::plan_sorted_read(conn, s).has_value(), c.taken) << qPrintable(s);
     }
+    // a name with an apostrophe fails the statement as written
+    const QString marked =
+        u"SELECT * FROM pagar where (origem like '"_s + sql::value(u"D'Ávila"_s) + u"') order by data"_s;
+    EXPECT_FALSE(sql::plan_sorted_read(conn, marked).has_value());
 }
 
 TEST_F(sorted_read, rows_come_in_the_order_the_engine_gives_them) {
