@@ -3,6 +3,7 @@
 #include "platform/errors.h"
 #include "platform/sql/jet_dialect.h"
 #include "platform/sql/recordset.h"
+#include "platform/sql/row_stream.h"
 #include "store/conexao.h"
 #include "store/config.h"
 
@@ -52,15 +53,23 @@ int walk_account(const sql::connection_ptr& conn, const QString& nome, const std
     statement_row row;
     for (const int i : ordem) {
         try {
-            sql::recordset rs;
-            rs.open(statements[std::size_t(i)], conn, sql::keyset, sql::read_only);
-            const int valor = rs.index_of(store::coluna::valor);
-            const int movimento = i == consulta_movimentos ? rs.index_of(store::coluna::movimento) : -1;
+            // only the columns the sums read: the account indexes hold them, and the rows are
+            // read from the index alone
+            const bool movimentos = i == consulta_movimentos;
+            QString text = statements[std::size_t(i)];
+            text.replace(0, 8,
+                         movimentos ? QStringLiteral("Select valor, movimento")
+                                    : QStringLiteral("Select valor"));
+            // every row is read before the first counts, so a statement that fails counts nothing
+            std::vector<std::pair<QString, QString>> rows;
+            sql::row_stream rs(conn, text);
+            while (rs.next())
+                rows.emplace_back(QString::fromUtf8(rs.raw(0)),
+                                  movimentos ? QString::fromUtf8(rs.raw(1)) : QString());
             row.statement = i;
-            row.movimento.clear();
-            for (; !rs.eof(); rs.move_next()) {
-                row.valor = rs.text(valor);
-                if (movimento >= 0) row.movimento = rs.text(movimento);
+            for (auto& [valor, movimento] : rows) {
+                row.valor = std::move(valor);
+                row.movimento = std::move(movimento);
                 visit(row);
             }
         } catch (const sql::error&) {

@@ -1,14 +1,19 @@
 #include "shell/ledger_load.h"
 
 #include "platform/errors.h"
+#include "platform/sql/row_stream.h"
 #include "shell/ledger_statement.h"
 #include "store/conexao.h"
 #include "store/names.h"
 
-#include <QHash>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 
 #include <exception>
 #include <limits>
+#include <numeric>
+#include <utility>
 
 namespace shell {
 
@@ -29,31 +34,32 @@ inline int digits(const QChar* p, int n) {
     return v;
 }
 
-// A field by index, empty when the statement did not bring the column.
-inline QString field(const sql::recordset& rs, int index) {
-    return index < 0 ? QString() : rs.text(index);
-}
-
 // Ledgers repeat their words, names, dates and blanks from row to row: equal texts of a column
-// share one string, which spares most of the memory of a long list and the time to free it.
+// share one string, which spares most of the memory of a long list and the time to free it. The
+// stored bytes are the key, so a repeated text is neither decoded nor hashed as UTF-16 again.
 class shared_texts {
 public:
     // The display text of a stored text, made once per distinct stored text.
-    template <class F> QString get(QString&& stored, F&& make) {
-        const auto it = seen_.constFind(stored);
-        if (it != seen_.constEnd()) return *it;
-        QString shown = make(stored);
+    template <class F> QString get(QByteArrayView bytes, F&& make) {
+        const std::string_view key(bytes.data(), std::size_t(bytes.size()));
+        const auto it = seen_.find(key);
+        if (it != seen_.end()) return it->second;
+        QString shown = make(QString::fromUtf8(bytes));
         // a column of unique texts stops growing the table
-        if (seen_.size() < limit) seen_.emplace(std::move(stored), shown);
+        if (seen_.size() < limit) seen_.emplace(std::string(key), shown);
         return shown;
     }
-    QString get(QString&& stored) {
-        return get(std::move(stored), [](const QString& s) { return s; });
+    QString get(QByteArrayView bytes) {
+        return get(bytes, [](const QString& s) { return s; });
     }
 
 private:
-    static constexpr qsizetype limit = 8192;
-    QHash<QString, QString> seen_;
+    struct hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>()(s); }
+    };
+    static constexpr std::size_t limit = 8192;
+    std::unordered_map<std::string, QString, hash, std::equal_to<>> seen_;
 };
 
 QString with_blank(const QString& s) {
@@ -104,7 +110,42 @@ QString movement_label(const ledger_view& v) {
            vb::format_money(v.transferencias) + u" ("_s + QString::number(v.n_transferencias) + u" cad.)"_s;
 }
 
-void walk_entries(ledger which, sql::recordset& rs, ledger_view& v) {
+// What a row adds to the label's sums; they are added up once the rows stand in their final
+// order, so that a sum kept at the edge of the range keeps the same addends as before.
+struct tally {
+    vb::currency addend;
+    bool counts = false;
+    std::uint8_t bucket = 0; // entries: 0 settled, 1 pending; movements: 0 deposit, 1 withdrawal, 2 transfer
+};
+
+// The rows of a walk in reading order, and what each adds.
+struct walked {
+    std::vector<QStringList> rows;
+    std::vector<tally> tallies;
+};
+
+// The record set as a source of rows, from its current row on.
+class recordset_rows {
+public:
+    explicit recordset_rows(sql::recordset& rs) : rs_(rs) {}
+    bool next() {
+        if (started_) rs_.move_next();
+        started_ = true;
+        return !rs_.eof();
+    }
+    int index_of(const QString& name) const { return rs_.index_of(name); }
+    QByteArrayView raw(int index) const { return rs_.raw(index); }
+
+private:
+    sql::recordset& rs_;
+    bool started_ = false;
+};
+
+template <class Source> inline QByteArrayView stored(const Source& src, int index) {
+    return index < 0 ? QByteArrayView() : src.raw(index);
+}
+
+template <class Source> void walk_entries(ledger which, Source& rs, walked& w) {
     const int i_codigo = rs.index_of(store::coluna::codigo);
     const int i_data = rs.index_of(store::coluna::data);
     const int i_descricao = rs.index_of(store::coluna::descricao);
@@ -119,34 +160,31 @@ void walk_entries(ledger which, sql::recordset& rs, ledger_view& v) {
     const QString& pendente = store::palavra::pendente;
     shared_texts datas, descricoes, documentos, contatos, moedas, estatus_, origens, informacoes;
 
-    for (; !rs.eof(); rs.move_next()) {
-        const amount a = read_amount(field(rs, i_valor));
-        QString estatus = estatus_.get(field(rs, i_estatus));
-        const QString moeda = moedas.get(field(rs, i_moeda), with_blank);
+    while (rs.next()) {
+        const amount a = read_amount(QString::fromUtf8(stored(rs, i_valor)));
+        QString estatus = estatus_.get(stored(rs, i_estatus));
+        const QString moeda = moedas.get(stored(rs, i_moeda), with_blank);
         QString valor;
         valor.reserve(moeda.size() + a.text.size());
         valor.append(moeda).append(a.text);
         QStringList row;
         row.reserve(10);
-        row.append(field(rs, i_codigo));
-        row.append(datas.get(field(rs, i_data), display_date));
-        row.append(descricoes.get(field(rs, i_descricao)));
-        row.append(documentos.get(field(rs, i_documento), with_blank));
-        row.append(contatos.get(field(rs, i_contato)));
-        row.append(datas.get(field(rs, i_vencimento), display_date));
+        row.append(QString::fromUtf8(stored(rs, i_codigo)));
+        row.append(datas.get(stored(rs, i_data), display_date));
+        row.append(descricoes.get(stored(rs, i_descricao)));
+        row.append(documentos.get(stored(rs, i_documento), with_blank));
+        row.append(contatos.get(stored(rs, i_contato)));
+        row.append(datas.get(stored(rs, i_vencimento), display_date));
         row.append(std::move(valor));
-        if (a.counts) {
-            vb::add_or_keep(v.total, a.addend);
-            vb::add_or_keep(estatus == pendente ? v.pendente : v.pago, a.addend);
-        }
+        w.tallies.push_back({a.addend, a.counts, std::uint8_t(estatus == pendente ? 1 : 0)});
         row.append(std::move(estatus));
-        row.append(origens.get(field(rs, i_origem)));
-        row.append(informacoes.get(field(rs, i_informacoes), with_blank));
-        v.rows.push_back(std::move(row));
+        row.append(origens.get(stored(rs, i_origem)));
+        row.append(informacoes.get(stored(rs, i_informacoes), with_blank));
+        w.rows.push_back(std::move(row));
     }
 }
 
-void walk_movements(sql::recordset& rs, ledger_view& v) {
+template <class Source> void walk_movements(Source& rs, walked& w) {
     const int i_codigo = rs.index_of(store::coluna::codigo);
     const int i_data = rs.index_of(store::coluna::data);
     const int i_movimento = rs.index_of(store::coluna::movimento);
@@ -160,39 +198,74 @@ void walk_movements(sql::recordset& rs, ledger_view& v) {
     const QString retirada_upper = store::palavra::retirada.toUpper();
     shared_texts datas, movimentos, contas, estatus, informacoes;
 
-    for (; !rs.eof(); rs.move_next()) {
-        const amount a = read_amount(field(rs, i_valor));
-        QString movimento = movimentos.get(field(rs, i_movimento));
+    while (rs.next()) {
+        const amount a = read_amount(QString::fromUtf8(stored(rs, i_valor)));
+        QString movimento = movimentos.get(stored(rs, i_movimento));
         QStringList row;
         row.reserve(8);
-        row.append(field(rs, i_codigo));
-        row.append(datas.get(field(rs, i_data), display_date));
+        row.append(QString::fromUtf8(stored(rs, i_codigo)));
+        row.append(datas.get(stored(rs, i_data), display_date));
         // kinds compare in upper case; anything else counts as a transfer
         const bool deposito =
             movimento == store::palavra::deposito ||
             (movimento != store::palavra::retirada && movimento.toUpper() == deposito_upper);
-        vb::currency* sum = &v.transferencias;
-        long* count = &v.n_transferencias;
-        if (deposito) {
-            sum = &v.depositos;
-            count = &v.n_depositos;
-        } else if (movimento == store::palavra::retirada || movimento.toUpper() == retirada_upper) {
-            sum = &v.retiradas;
-            count = &v.n_retiradas;
-        }
-        if (a.counts) vb::add_or_keep(*sum, a.addend);
-        ++*count;
+        std::uint8_t bucket = 2;
+        if (deposito)
+            bucket = 0;
+        else if (movimento == store::palavra::retirada || movimento.toUpper() == retirada_upper)
+            bucket = 1;
+        w.tallies.push_back({a.addend, a.counts, bucket});
         QString valor;
         valor.reserve(rs_prefix.size() + a.text.size());
         valor.append(rs_prefix).append(a.text);
         row.append(std::move(movimento));
-        row.append(contas.get(field(rs, i_origem)));
-        row.append(contas.get(field(rs, i_destino)));
+        row.append(contas.get(stored(rs, i_origem)));
+        row.append(contas.get(stored(rs, i_destino)));
         row.append(std::move(valor));
-        row.append(estatus.get(field(rs, i_estatus)));
-        row.append(informacoes.get(field(rs, i_informacoes)));
-        v.rows.push_back(std::move(row));
+        row.append(estatus.get(stored(rs, i_estatus)));
+        row.append(informacoes.get(stored(rs, i_informacoes)));
+        w.rows.push_back(std::move(row));
     }
+}
+
+// The rows in the given order, the sums and the label.
+ledger_view finish(ledger which, walked&& w, const std::vector<std::uint32_t>& order) {
+    ledger_view v;
+    v.rows.reserve(w.rows.size());
+    const auto add = [&](const tally& t) {
+        if (which != ledger::bancario) {
+            if (!t.counts) return;
+            vb::add_or_keep(v.total, t.addend);
+            vb::add_or_keep(t.bucket == 1 ? v.pendente : v.pago, t.addend);
+            return;
+        }
+        vb::currency* sums[] = {&v.depositos, &v.retiradas, &v.transferencias};
+        long* counts[] = {&v.n_depositos, &v.n_retiradas, &v.n_transferencias};
+        if (t.counts) vb::add_or_keep(*sums[t.bucket], t.addend);
+        ++*counts[t.bucket];
+    };
+    for (const std::uint32_t i : order) {
+        // a walk stopped by an error may have keyed a row it did not finish
+        if (i >= w.rows.size()) continue;
+        add(w.tallies[i]);
+        v.rows.push_back(std::move(w.rows[i]));
+    }
+    v.label = which == ledger::bancario ? movement_label(v) : entry_label(which, v);
+    return v;
+}
+
+template <class Source> walked walk(ledger which, Source& src, std::size_t expected) {
+    walked w;
+    w.rows.reserve(expected);
+    w.tallies.reserve(expected);
+    // the loop ends where it failed; what was read stays
+    platform::ignore_errors([&] {
+        if (which == ledger::bancario)
+            walk_movements(src, w);
+        else
+            walk_entries(which, src, w);
+    });
+    return w;
 }
 
 } // namespace
@@ -225,32 +298,48 @@ QString display_date(const QString& stored) {
 }
 
 ledger_view load_rows(ledger which, sql::recordset& rs) {
-    ledger_view v;
     const long n = rs.record_count() - rs.absolute_position();
-    if (n > 0) v.rows.reserve(std::size_t(n));
-    // the loop ends where it failed; what was read stays
-    platform::ignore_errors([&] {
-        if (which == ledger::bancario)
-            walk_movements(rs, v);
-        else
-            walk_entries(which, rs, v);
-    });
-    v.label = which == ledger::bancario ? movement_label(v) : entry_label(which, v);
-    return v;
+    recordset_rows src(rs);
+    walked w = walk(which, src, n > 0 ? std::size_t(n) : 0);
+    std::vector<std::uint32_t> order(w.rows.size());
+    std::iota(order.begin(), order.end(), 0u);
+    return finish(which, std::move(w), order);
 }
 
 ledger_view load_ledger(ledger which, const QString& consulta, const std::function<void()>& before_walk) {
     try {
         store::conectarbanco();
-        sql::recordset rs;
-        rs.open(bounds_in_order(consulta), store::conexao, sql::keyset, sql::read_only);
-        if (rs.eof()) {
+        // the rows go straight from the engine into display texts: a long list is never held twice
+        sql::row_stream src(store::conexao, bounds_in_order(consulta));
+        if (!src.next()) {
             ledger_view v;
             v.label = empty_label(which);
             return v;
         }
         if (before_walk) before_walk();
-        return load_rows(which, rs);
+        // the first row is already read; an engine that fails mid-way fails the whole load, as
+        // when every row was read before the first was shown
+        struct from_first {
+            sql::row_stream& s;
+            bool first = true;
+            bool failed = false;
+            bool next() {
+                if (std::exchange(first, false)) return true;
+                try {
+                    return s.next();
+                } catch (...) {
+                    failed = true;
+                    throw;
+                }
+            }
+            int index_of(const QString& name) const { return s.index_of(name); }
+            QByteArrayView raw(int index) const { return s.raw(index); }
+        } rows{src};
+        walked w = walk(which, rows, 0);
+        if (rows.failed) throw sql::error(store::conexao->last_error());
+        // the pages of a long list are not read again soon; the list holds what it needs
+        store::conexao->release_memory();
+        return finish(which, std::move(w), src.order());
     } catch (const std::exception&) {
         ledger_view v;
         v.label = empty_label(which);

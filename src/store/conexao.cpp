@@ -5,7 +5,10 @@
 #include "platform/prompts.h"
 #include "store/column_types.h"
 #include "store/config.h"
+#include "store/data_file.h"
+
 #include "store/program_dir.h"
+#include <QSet>
 
 namespace store {
 
@@ -59,8 +62,13 @@ void conectarbanco(const QString& arquivo, const QString& senha) {
     tentativasconexao = 0;
     const QString caminho = caminho_dados(arquivo);
     conexao.reset();
-    if (abrir(caminho, senha)) return;
-    reconectarbanco(caminho, senha);
+    if (!abrir(caminho, senha)) reconectarbanco(caminho, senha);
+    // once per file and run: the indexes of a file an older version wrote
+    static QSet<QString> updated;
+    if (conexao && !updated.contains(caminho)) {
+        updated.insert(caminho);
+        platform::ignore_errors([] { update_indexes(conexao); });
+    }
 }
 
 void colunas_proprias() {

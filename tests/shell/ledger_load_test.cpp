@@ -2,6 +2,7 @@
 
 #include "shell/filter_state.h"
 #include "shell/ledger_statement.h"
+#include "store/conexao.h"
 #include "support/fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -200,4 +201,32 @@ TEST_F(ledger_load, totals_skip_what_would_overflow) {
     EXPECT_EQ(v.label,
               u"3 cadastros  -  Total de despesas: R$ 900.000.000.000.000,00  -  Total pago: R$ 0,00  -  "
               u"Total pendente: R$ 900.000.000.000.000,00"_s);
+}
+
+// A whole ledger is read in the table's order and put in the statement's; the sums follow the
+// final order, which decides what a total at the edge of the range keeps.
+TEST_F(ledger_load, rows_read_in_table_order_come_and_add_up_in_the_statements_order) {
+    add_pagar(u"Pendente"_s, u"2026/11/03"_s, u"900.000.000.000.000,00"_s, u"2026/11/30"_s);
+    add_pagar(u"Pendente"_s, u"2026/11/02"_s, u"800.000.000.000.000,00"_s, u"2026/12/30"_s);
+    add_pagar(u"Concluído"_s, u"2026/11/02"_s, u"1,00"_s, u"2026/11/30"_s);
+    add_pagar(u"Concluído"_s, u"2026/11/01"_s, u"2,00"_s, u"2026/10/30"_s);
+    const struct {
+        const char16_t* statement;
+        const char16_t* engine_order;
+    } cases[] = {
+        {u"SELECT * FROM pagar where (estatus like '%%') order by data", u", rowid"},
+        {u"SELECT * FROM pagar where (estatus like '%%') order by vencimento desc", u", rowid desc"},
+    };
+    for (const auto& c : cases) {
+        const QString s = QString::fromUtf16(c.statement);
+        const shell::ledger_view v = shell::load_ledger(ledger::pagar, s);
+        sql::recordset rs;
+        rs.open(s + QString::fromUtf16(c.engine_order), store::conexao, sql::keyset, sql::read_only);
+        const shell::ledger_view expected = shell::load_rows(ledger::pagar, rs);
+        EXPECT_EQ(v.rows, expected.rows) << qPrintable(s);
+        EXPECT_EQ(v.label, expected.label) << qPrintable(s);
+    }
+    EXPECT_EQ(shell::load_ledger(ledger::pagar, QString::fromUtf16(cases[0].statement)).label,
+              u"4 cadastros  -  Total de despesas: R$ 800.000.000.000.003,00  -  Total pago: R$ 3,00  -  "
+              u"Total pendente: R$ 800.000.000.000.000,00"_s);
 }

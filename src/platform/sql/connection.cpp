@@ -110,7 +110,8 @@ std::shared_ptr<connection> connection::open(const QString& path, const QByteArr
                         .arg(path));
     const QByteArray key = raw_key_for(passphrase, salt);
     const QByteArray raw = "x'" + key.toHex() + salt.toHex() + "'";
-    sqlite3* db = open_handle(path, SQLITE_OPEN_READWRITE);
+    // a connection is used by one thread at a time: no lock around every call
+    sqlite3* db = open_handle(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX);
     sqlite3_key(db, raw.constData(), int(raw.size()));
     check_readable(db, path);
     setup(db);
@@ -132,6 +133,10 @@ std::shared_ptr<connection> connection::create(const QString& path, const QByteA
     }
     setup(db);
     return std::shared_ptr<connection>(new connection(db));
+}
+
+void connection::release_memory() {
+    sqlite3_db_release_memory(db_);
 }
 
 connection::~connection() {

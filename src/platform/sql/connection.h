@@ -40,6 +40,8 @@ public:
     // Compiles SQLite's own text as it stands (the record set's writes); nullptr on failure.
     statement_ptr prepare_native(const QString& text);
     sqlite3* handle() const { return db_; }
+    // Gives back the page cache the connection holds, after a long read.
+    void release_memory();
     QString last_error() const;
 
     // What a column accepts, as the old file's column types decided: called for each value a

@@ -58,6 +58,7 @@ void recordset::open(const QString& source, const connection_ptr& conn, int /*cu
     lock_ = lock;
     const bool writable = lock == pessimistic || lock == optimistic || lock == batch_optimistic;
     QString statement;
+    std::optional<sorted_read> sorted;
     table_.clear();
     first_visible_ = 0;
     if (is_plain_name(source)) {
@@ -69,12 +70,19 @@ void recordset::open(const QString& source, const connection_ptr& conn, int /*cu
             QStringLiteral("^\\s*select\\s+\\*\\s+from\\s+\\[?(\\w+)\\]?(\\s|\\(|$)"),
             QRegularExpression::CaseInsensitiveOption);
         const auto m = single.match(source);
+        const auto with_rowid = [](const QString& text) {
+            const qsizetype star = text.indexOf(QLatin1Char('*'));
+            return text.left(star) + QStringLiteral("rowid AS ") + rowid_column + QStringLiteral(", *") +
+                   text.mid(star + 1);
+        };
         if (writable && m.hasMatch()) {
             table_ = m.captured(1);
-            const qsizetype star = source.indexOf(QLatin1Char('*'));
-            statement = source.left(star) + QStringLiteral("rowid AS ") + rowid_column +
-                        QStringLiteral(", *") + source.mid(star + 1);
+            statement = with_rowid(source);
             first_visible_ = 1;
+        } else if (auto sr = writable ? std::nullopt : plan_sorted_read(conn, source)) {
+            statement = with_rowid(sr->unordered);
+            first_visible_ = 1;
+            sorted = std::move(sr);
         } else {
             statement = source;
         }
@@ -96,8 +104,29 @@ void recordset::open(const QString& source, const connection_ptr& conn, int /*cu
         close();
         throw error(why);
     }
+    if (sorted) sort_rows(*sorted);
     pos_ = 0;
     open_ = true;
+}
+
+void recordset::sort_rows(const sorted_read& how) {
+    const int key = index_of(how.column);
+    if (key < 0) return;
+    const std::size_t n = std::size_t(rows());
+    std::vector<sort_key> keys(n);
+    for (std::size_t r = 0; r < n; ++r) {
+        const cell& id = cells_[r * cols_];
+        const cell& c = cells_[r * cols_ + std::size_t(key + first_visible_)];
+        keys[r] =
+            sort_key::of(c.type, std::string_view(arena_.data() + c.offset, c.size),
+                         std::strtoll(std::string(arena_.data() + id.offset, id.size).c_str(), nullptr, 10));
+    }
+    std::vector<cell> sorted_cells;
+    sorted_cells.reserve(cells_.size());
+    for (const std::uint32_t r : sorted_order(keys, how.descending))
+        sorted_cells.insert(sorted_cells.end(), cells_.begin() + std::ptrdiff_t(r * cols_),
+                            cells_.begin() + std::ptrdiff_t((r + 1) * cols_));
+    cells_ = std::move(sorted_cells);
 }
 
 void recordset::append_row_from(sqlite3_stmt* st) {
@@ -190,6 +219,14 @@ QString recordset::text(int index) const {
     }
     const QVariant v = value(index);
     return v.isNull() ? QString() : v.toString();
+}
+
+QByteArrayView recordset::raw(int index) const {
+    if (mode_ != edit_mode::none || !open_ || pos_ < 0 || eof())
+        throw error(QStringLiteral("BOF ou EOF é True ou o registro atual foi excluído."));
+    if (index < 0 || index >= field_count()) throw error(QStringLiteral("Índice de campo inválido."));
+    const cell& c = cells_[std::size_t(pos_) * cols_ + std::size_t(index + first_visible_)];
+    return QByteArrayView(arena_.data() + c.offset, qsizetype(c.size));
 }
 
 bool recordset::is_null(const QString& name) const {

@@ -3,12 +3,15 @@
 // name without regard to case, add or edit the current row and write it back.
 
 #include "platform/sql/connection.h"
+#include "platform/sql/sorted_read.h"
 
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -48,6 +51,9 @@ public:
     // The field as text: null reads as empty text.
     QString text(const QString& name) const { return text(checked_index(name)); }
     QString text(int index) const;
+    // The field as the stored UTF-8 bytes (empty for null), valid until the record set moves on to
+    // another statement. Only for a row that is not being edited.
+    QByteArrayView raw(int index) const;
     bool is_null(const QString& name) const;
 
     // Writing: set() on the current row starts an edit; add_new() starts a new row.
@@ -65,6 +71,7 @@ private:
     int checked_index(const QString& name) const;
     QVariant read_cell(std::size_t row, int col) const;
     void append_row_from(struct sqlite3_stmt* st);
+    void sort_rows(const sorted_read& how);
     void ensure_writable() const;
     void reload_row(std::size_t row, long long rowid);
 

@@ -8,7 +8,12 @@
 #include <QScreen>
 
 #include <algorithm>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <cmath>
+#include <cstring>
+#include <memory>
 #include <numeric>
 
 namespace {
@@ -39,7 +44,68 @@ qint64 date_key(QStringView s) {
 } // namespace
 
 // Rows are kept as one text each, cells laid end to end with their offsets beside, and shown
-// through an order vector, so a sort moves indexes only.
+// through an order vector, so a sort moves indexes only. The texts lie in large blocks, one byte a
+// character when the row allows it (as most rows of this program do), two bytes otherwise: a
+// million rows hold no allocation of their own.
+class text_blocks {
+public:
+    struct ref {
+        std::uint32_t block;
+        std::uint32_t offset;
+        std::uint32_t size; // characters
+        bool wide;
+    };
+    ref add(const QStringList& cells, qsizetype total) {
+        bool narrow = true;
+        for (const QString& c : cells)
+            for (const QChar ch : c)
+                if (ch.unicode() > 0xff) {
+                    narrow = false;
+                    break;
+                }
+        const std::size_t bytes = std::size_t(total) * (narrow ? 1 : 2);
+        char* at = reserve(bytes);
+        ref r{std::uint32_t(blocks_.size() - 1), std::uint32_t(used_ - bytes), std::uint32_t(total), !narrow};
+        for (const QString& c : cells) {
+            if (narrow) {
+                for (const QChar ch : c)
+                    *at++ = char(ch.unicode());
+            } else {
+                std::memcpy(at, c.constData(), std::size_t(c.size()) * 2);
+                at += c.size() * 2;
+            }
+        }
+        return r;
+    }
+    QString text(const ref& r, std::uint32_t from, std::uint32_t n) const {
+        const char* p = blocks_[r.block].get() + r.offset;
+        if (!r.wide) return QString::fromLatin1(p + from, qsizetype(n));
+        QString out(qsizetype(n), Qt::Uninitialized);
+        std::memcpy(out.data(), p + std::size_t(from) * 2, std::size_t(n) * 2);
+        return out;
+    }
+    void clear() {
+        blocks_.clear();
+        blocks_.shrink_to_fit();
+        used_ = capacity_ = 0;
+    }
+
+private:
+    static constexpr std::size_t block_size = std::size_t(1) << 20;
+    char* reserve(std::size_t bytes) {
+        if (blocks_.empty() || used_ + bytes > capacity_) {
+            capacity_ = std::max(block_size, bytes);
+            blocks_.push_back(std::make_unique<char[]>(capacity_));
+            used_ = 0;
+        }
+        char* at = blocks_.back().get() + used_;
+        used_ += bytes;
+        return at;
+    }
+    std::vector<std::unique_ptr<char[]>> blocks_;
+    std::size_t used_ = 0, capacity_ = 0;
+};
+
 class list_model : public QAbstractTableModel {
 public:
     struct column {
@@ -64,7 +130,7 @@ public:
         switch (role) {
         case Qt::DisplayRole:
         case Qt::ToolTipRole:
-            return cell(index.row(), index.column()).toString();
+            return cell(index.row(), index.column());
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(
                 Qt::Alignment(columns[std::size_t(index.column())].align | Qt::AlignVCenter));
@@ -83,20 +149,21 @@ public:
         return {};
     }
 
-    QStringView cell(int row, int col) const {
+    QString cell(int row, int col) const {
         if (row < 0 || row >= int(order_.size()) || col < 0) return {};
         const std::size_t r = order_[std::size_t(row)];
         const std::size_t n = counts_[r];
         if (std::size_t(col) >= n) return {};
         const std::size_t base = starts_[r];
         const std::uint32_t a = offsets_[base + std::size_t(col)], b = offsets_[base + std::size_t(col) + 1];
-        return QStringView(texts_[r]).mid(a, b - a);
+        return texts_.text(refs_[r], a, b - a);
     }
 
     void clear_rows() {
         beginResetModel();
         texts_.clear();
-        texts_.shrink_to_fit();
+        refs_.clear();
+        refs_.shrink_to_fit();
         offsets_.clear();
         offsets_.shrink_to_fit();
         starts_.clear();
@@ -106,27 +173,23 @@ public:
     }
 
     void append(const QStringList& cells) {
-        QString joined;
         qsizetype total = 0;
-        for (const QString& c : cells)
-            total += c.size();
-        joined.reserve(total);
         starts_.push_back(offsets_.size());
         counts_.push_back(std::uint32_t(cells.size()));
         offsets_.push_back(0);
         for (const QString& c : cells) {
-            joined += c;
-            offsets_.push_back(std::uint32_t(joined.size()));
+            total += c.size();
+            offsets_.push_back(std::uint32_t(total));
         }
-        order_.push_back(texts_.size());
-        texts_.push_back(std::move(joined));
+        order_.push_back(refs_.size());
+        refs_.push_back(texts_.add(cells, total));
     }
 
     void add_rows(std::vector<QStringList>&& rows) {
         if (rows.empty()) return;
         const int first = int(order_.size());
         beginInsertRows({}, first, first + int(rows.size()) - 1);
-        texts_.reserve(texts_.size() + rows.size());
+        refs_.reserve(refs_.size() + rows.size());
         order_.reserve(order_.size() + rows.size());
         starts_.reserve(starts_.size() + rows.size());
         counts_.reserve(counts_.size() + rows.size());
@@ -135,6 +198,10 @@ public:
             r = QStringList(); // free as we go: the caller's copy and ours never both stay whole
         }
         endInsertRows();
+#ifdef __GLIBC__
+        // the rows just freed would otherwise stay with the process for good
+        if (rows.size() >= 10000) malloc_trim(0);
+#endif
     }
 
     void set_cell(int row, int col, const QString& text) {
@@ -143,20 +210,17 @@ public:
         QStringList cells;
         const int n = std::max(int(counts_[r]), col + 1);
         for (int c = 0; c < n; ++c)
-            cells << (c == col ? text : cell(row, c).toString());
+            cells << (c == col ? text : cell(row, c));
         // rewrite the row at the end of the stores and point the order at it
         append(cells);
         order_.pop_back();
-        order_[std::size_t(row)] = texts_.size() - 1;
-        texts_[r].clear();
-        texts_[r].squeeze();
+        order_[std::size_t(row)] = refs_.size() - 1;
         Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
     }
 
     void remove_row(int row) {
         if (row < 0 || row >= int(order_.size())) return;
         beginRemoveRows({}, row, row);
-        texts_[order_[std::size_t(row)]].clear();
         order_.erase(order_.begin() + row);
         endRemoveRows();
     }
@@ -186,7 +250,12 @@ public:
                 keys[i] = number_key(cell(int(i), col));
             apply([&](int a, int b) { return keys[std::size_t(a)] < keys[std::size_t(b)]; });
         } else {
-            apply([&](int a, int b) { return cell(a, col).compare(cell(b, col), Qt::CaseInsensitive) < 0; });
+            std::vector<QString> keys(rows.size());
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                keys[i] = cell(int(i), col);
+            apply([&](int a, int b) {
+                return keys[std::size_t(a)].compare(keys[std::size_t(b)], Qt::CaseInsensitive) < 0;
+            });
         }
         std::vector<int> new_pos(rows.size());
         for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -206,7 +275,8 @@ public:
     }
 
 private:
-    std::vector<QString> texts_;
+    text_blocks texts_;
+    std::vector<text_blocks::ref> refs_;
     std::vector<std::uint32_t> offsets_;
     std::vector<std::size_t> starts_;
     std::vector<std::uint32_t> counts_;
@@ -320,7 +390,7 @@ int list_view::row_count() const {
 }
 
 QString list_view::text(int row, int col) const {
-    return model_->cell(row, col).toString();
+    return model_->cell(row, col);
 }
 
 void list_view::set_text(int row, int col, const QString& text) {
