@@ -13,10 +13,6 @@ using namespace Qt::StringLiterals;
 using analysis::pedido_fluxo;
 using analysis::tipo_fluxo;
 
-static void PrintTo(const QString& s, std::ostream* os) {
-    *os << '"' << s.toStdString() << '"';
-}
-
 namespace {
 
 TEST(cash_flow_statement, words_dates_and_bank_go_into_one_shape) {

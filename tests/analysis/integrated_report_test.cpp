@@ -17,10 +17,6 @@ using namespace Qt::StringLiterals;
 using analysis::estatus_filtro;
 using analysis::filtros_pagina;
 
-static void PrintTo(const QString& s, std::ostream* os) {
-    *os << '"' << s.toStdString() << '"';
-}
-
 namespace {
 
 const QDate primeiro(2026, 11, 1), ultimo(2026, 11, 30);

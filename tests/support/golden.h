@@ -31,6 +31,10 @@ QStringList bracketed(const QString& line);
 
 // The bytes of a file; empty when it cannot be read.
 QByteArray read_file(const QString& path);
+// The same as UTF-8 text.
+inline QString read_text(const QString& path) {
+    return QString::fromUtf8(read_file(path));
+}
 // Rows one per line, cells in brackets so their blanks show.
 QString table_text(const std::vector<QStringList>& rows);
 

@@ -132,13 +132,6 @@ protected:
             out << l->text(r, c);
         return out;
     }
-    // Every message box so far as "title: text".
-    QStringList boxes() const {
-        QStringList out;
-        for (const auto& b : prompts_.boxes())
-            out << b.title + u": "_s + b.text;
-        return out;
-    }
 
     frmprincipal* p = nullptr;
 };
