@@ -11,10 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-static void PrintTo(const QString& s, std::ostream* os) {
-    *os << '"' << s.toStdString() << '"';
-}
-
 namespace {
 
 QString linha(const QString& texto, const QString& inicio) {
@@ -87,10 +83,8 @@ protected:
         platform::set_print_destination(nullptr);
         window_fixture::TearDown();
     }
-    frmprojecao* abrir(const char* menu) {
-        QAction* a = p->findChild<QAction*>(QString::fromLatin1(menu));
-        EXPECT_TRUE(a && a->isEnabled()) << menu;
-        if (a) a->trigger();
+    frmprojecao* abrir(const char* item) {
+        menu(item);
         return frmprojecao::aberto();
     }
     platform::pdf_target pdf_{path(u"projecao.pdf"_s)};

@@ -6,16 +6,13 @@
 #include "platform/smtp.h"
 #include "shell/principal_api.h"
 #include "support/fixture.h"
+#include "support/golden.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QLineEdit>
 
 #include <ostream>
-
-inline void PrintTo(const QString& s, std::ostream* os) {
-    *os << '"' << s.toStdString() << '"';
-}
 
 namespace mail_test {
 
@@ -69,10 +66,7 @@ protected:
             t->setText(servidor);
         return w;
     }
-    static QString ler_arquivo(const QString& path) {
-        QFile f(path);
-        return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-    }
+    static QString ler_arquivo(const QString& path) { return support::read_text(path); }
 
     platform::recording_mailer mailer_;
 };

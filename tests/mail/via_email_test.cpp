@@ -85,16 +85,7 @@ TEST_F(via_email, the_report_body_states_the_filters_and_takes_its_date_line_fro
     p.incluir = {true, false, true};
     p.por_data = true; // the report page's own box does not bring the line
     const QString sem = mail::corpo_relatorio(p, tipo_ret::pendentes, false);
-    EXPECT_EQ(
-        sem,
-        QStringLiteral(
-            "<p><font face='Verdana' style='font-size: 11pt'><b>Olá </b>Ana,<br><br>Segue em anexo o "
-            "relatório que foi enviado pelo senhor através do software Quintara.<br><br> Obrigado por "
-            "utilizar nossos softwares!<br><br>Os dados no arquivo em anexo foram filtrados de acordo com "
-            "a sua preferência, segue abaixo os dados filtrados:<br><br><b>Filtrados por estatus:</b> "
-            "Somente contas Pendentes<br><b>Dados incluídos:</b> Contas a pagar / Movimento bancario"
-            "<hr><br> Gerado dia: segunda-feira, 23 de novembro de 2026<br><br> Quintara<br> "
-            "https://www.quintara.com.br"));
+    EXPECT_TRUE(support::matches_golden(QStringLiteral("mail/corpo_relatorio.html"), sem));
     const QString com = mail::corpo_relatorio(p, tipo_ret::todos, true);
     EXPECT_TRUE(
         com.contains(QStringLiteral("filtrados:<br><br><b>Filtrados entre as datas:</b> 01/11/2026 e <br>"
@@ -107,26 +98,8 @@ TEST_F(via_email, the_report_body_states_the_filters_and_takes_its_date_line_fro
 TEST_F(via_email, the_statistics_body_counts_statuses_whatever_their_case) {
     pagina p;
     p.nome = QStringLiteral("Ana");
-    EXPECT_EQ(
-        mail::corpo_estatisticas(p),
-        QStringLiteral(
-            "<p><font face='Verdana' style='font-size: 11pt'><b>Estatística enviada por e-mail</b><br><br>"
-            "> Dados incluídos:<br><br>Contas a pagar<br>Contas a receber<br>Movimento bancario<br><br><br>"
-            "<hr><b>Olá </b>Ana,<br><br>Segue abaixo as estatísticas enviadas por você:<br><br>"
-            "> Contas a pagar<br><br><b>Total de contas cadastradas:</b> 3 cadastros<br><br><b>Total de "
-            "contas pendentes cadastradas:</b> 2 cadastros<br><br><b>Valor total de contas pendentes:</b> "
-            "R$ 1.244,57<br><br><b>Total de contas concluídas cadastradas:</b> 1 cadastros<br><br><b>Valor "
-            "total de contas concluidas:</b> R$ 250,50<br><br><b>Total geral:</b> R$ 1.495,07<br><br><hr>"
-            "> Contas a receber<br><br><b>Total de contas cadastradas:</b> 1 cadastros<br><br><b>Total de "
-            "contas pendentes cadastradas:</b> 0 cadastros<br><br><b>Valor total de contas pendentes:</b> "
-            "R$ 0,00<br><br><b>Total de contas concluídas cadastradas:</b> 0 cadastros<br><br><b>Valor "
-            "total de contas concluidas:</b> R$ 0,00<br><br><b>Total geral:</b> R$ 500,00<br><br><hr>"
-            "> Movimento bancario<br><br><b>Total de contas cadastradas:</b> 3 cadastros<br><br><b>Total de "
-            "contas pendentes cadastradas:</b> 1 cadastros<br><br><b>Valor total de contas pendentes:</b> "
-            "R$ 50,00<br><br><b>Total de contas concluídas cadastradas:</b> 2 cadastros<br><br><b>Valor "
-            "total de contas concluidas:</b> R$ 1.200,00<br><br><b>Total geral:</b> R$ 1.250,00<br><br>"
-            "<hr><br> Gerado dia: segunda-feira, 23 de novembro de 2026<br><br> Quintara<br> "
-            "https://www.quintara.com.br</font></p>"));
+    EXPECT_TRUE(
+        support::matches_golden(QStringLiteral("mail/corpo_estatisticas.html"), mail::corpo_estatisticas(p)));
     p.por_data = true;
     p.inicio = QDate(2026, 11, 1);
     p.fim = QDate(2026, 11, 30);

@@ -20,15 +20,7 @@ using testing_output::test_table;
 
 namespace {
 
-QByteArray golden(const QString& name) {
-    QFile f(QStringLiteral(QUINTARA_TEST_DATA_DIR "/output/") + name);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-QByteArray read_file(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
+using support::read_file;
 
 QStringList lines_of(const QByteArray& b) {
     QString s = QString::fromUtf8(b);
@@ -255,7 +247,7 @@ TEST_F(export_test, save_asks_writes_and_offers_to_open) {
     prompts_.answer_text(file);
     prompts_.answer(platform::answer_yes);
     EXPECT_EQ(output::salvar_relatorio(output::formato_relatorio::html, pagar_texts(), &pagar, c), file);
-    EXPECT_EQ(read_file(file), golden(u"relatorio_pagar.html"_s));
+    EXPECT_TRUE(support::file_matches_golden(u"output/relatorio_pagar.html"_s, file));
     const auto& rec = prompts_.records();
     ASSERT_EQ(rec.size(), 2u);
     EXPECT_EQ(std::tuple(rec[0].kind, rec[0].title, rec[0].filter),
@@ -278,7 +270,7 @@ TEST_F(export_test, save_asks_writes_and_offers_to_open) {
     output::salvar_relatorio(output::formato_relatorio::txt, movimento_texts(), &mov, c);
     EXPECT_EQ(prompts_.records()[0].filter,
               output::save_filter(output::janela_relatorio::movimento, output::formato_relatorio::txt));
-    EXPECT_EQ(read_file(path(u"mov.txt"_s)), golden(u"movimento_bancario.txt"_s));
+    EXPECT_TRUE(support::file_matches_golden(u"output/movimento_bancario.txt"_s, path(u"mov.txt"_s)));
     EXPECT_TRUE(shell_.opened.isEmpty());
 }
 

@@ -1,6 +1,7 @@
 #include "platform/autostart.h"
 #include "platform/settings.h"
 #include "support/fixture.h"
+#include "support/golden.h"
 
 #include <QFile>
 
@@ -12,11 +13,7 @@ namespace {
 
 using settings = support::fixture;
 
-QString file_text(const QString& p) {
-    QFile f(p);
-    if (!f.open(QIODevice::ReadOnly)) return {};
-    return QString::fromUtf8(f.readAll());
-}
+using support::read_text;
 
 TEST_F(settings, keys_ignore_case_and_sections_stay_apart) {
     const QString app = u"Quintara"_s;
@@ -32,7 +29,7 @@ TEST_F(settings, keys_ignore_case_and_sections_stay_apart) {
     platform::save_setting(app, u"Configurações"_s, u"RedeLocal"_s, u"\\\\srv\\dados\nx"_s);
     EXPECT_EQ(platform::get_setting(app, u"Configurações"_s, u"redelocal"_s, QString()),
               u"\\\\srv\\dados\nx"_s);
-    const QString text = file_text(settings_file());
+    const QString text = read_text(settings_file());
     EXPECT_TRUE(text.contains(u"[Configurações\\relatorio]\nnome=Padaria Pão & Mel\n"_s)) << qPrintable(text);
     EXPECT_TRUE(text.contains(u"VisualizarDadosbancario=2"_s));
 }
@@ -54,7 +51,7 @@ TEST_F(settings, profile_files_read_write_and_truncate) {
     platform::gravarini(u"POSICAO"_s, u"posicao1"_s, u"3"_s, ini);
     platform::gravarini(u"tamanho"_s, u"DATA"_s, u"1600"_s, ini);
     EXPECT_EQ(platform::lerini(u"TAMANHO"_s, u"data"_s, QString(), ini), u"1600"_s);
-    EXPECT_EQ(file_text(ini), u"[TAMANHO]\ndata=1600\n\n[POSICAO]\nposicao1=3\n"_s);
+    EXPECT_EQ(read_text(ini), u"[TAMANHO]\ndata=1600\n\n[POSICAO]\nposicao1=3\n"_s);
     platform::gravarini(u"X"_s, u"longo"_s, QString(300, QLatin1Char('a')), ini);
     EXPECT_EQ(platform::lerini(u"X"_s, u"longo"_s, QString(), ini).size(), 254);
 }
@@ -74,13 +71,13 @@ TEST_F(settings, run_entry_maps_to_an_autostart_file) {
 
     platform::gravarregistro(platform::run_key, u"Quintara"_s, u"/opt/quintara/quintara"_s);
     const QString file = platform::autostart_file(u"Quintara"_s);
-    EXPECT_TRUE(file_text(file).contains(u"Exec=/opt/quintara/quintara\n"_s));
-    EXPECT_TRUE(file_text(file).contains(u"Hidden=false"_s));
+    EXPECT_TRUE(read_text(file).contains(u"Exec=/opt/quintara/quintara\n"_s));
+    EXPECT_TRUE(read_text(file).contains(u"Hidden=false"_s));
     // off: rewritten with the empty text, not removed
     platform::gravarregistro(platform::run_key, u"Quintara"_s, QString());
     EXPECT_TRUE(QFile::exists(file));
-    EXPECT_TRUE(file_text(file).contains(u"Exec=\n"_s));
-    EXPECT_TRUE(file_text(file).contains(u"Hidden=true"_s));
+    EXPECT_TRUE(read_text(file).contains(u"Exec=\n"_s));
+    EXPECT_TRUE(read_text(file).contains(u"Hidden=true"_s));
     // other keys have no place on this desktop and are left alone
     platform::gravarregistro(u"HKEY_CURRENT_USER\\Software\\Outro"_s, u"Outro"_s, u"x"_s);
     EXPECT_FALSE(QFile::exists(platform::autostart_file(u"Outro"_s)));

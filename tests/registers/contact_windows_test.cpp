@@ -57,11 +57,7 @@ protected:
             out << f->lstcontato->text(r, 1);
         return out;
     }
-    QStringList file_lines(const QString& file) {
-        QFile f(file);
-        f.open(QIODevice::ReadOnly);
-        return QString::fromUtf8(f.readAll()).split(u"\r\n"_s);
-    }
+    static QStringList file_lines(const QString& file) { return support::read_text(file).split(u"\r\n"_s); }
     platform::pdf_target pdf_{path(u"impresso.pdf"_s)};
 };
 

@@ -122,12 +122,6 @@ protected:
         f->cmbModelo->setCurrentIndex(i);
         f->cmbModelo_click();
     }
-    QStringList caixas() const {
-        QStringList out;
-        for (const auto& b : prompts_.boxes())
-            out << b.title + u": "_s + b.text;
-        return out;
-    }
     platform::pdf_target pdf_{path(u"etiquetas.pdf"_s)};
 };
 
@@ -161,7 +155,7 @@ TEST_F(etiquetas, labels_fall_where_the_sheet_says_from_the_label_chosen_to_star
     f->txtLinIni->setText(u"2"_s);
     f->txtColIni->setText(u"2"_s);
     f->cmdImprimir->click();
-    EXPECT_TRUE(caixas().isEmpty());
+    EXPECT_TRUE(boxes().isEmpty());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(frmConfEtiqueta::aberto(), nullptr); // the window closes after printing
 
@@ -250,7 +244,7 @@ TEST_F(etiquetas, the_reports_messages) {
     exec(u"INSERT INTO CamposEtiqueta (\"Index\", Campo, \"Top\", \"Left\", Width, Formato) VALUES "
          u"(9, 'celular', 1000, 100, 2000, '')"_s);
     imprimir(u"Select * from cliente"_s);
-    const QStringList c = caixas();
+    const QStringList c = boxes();
     ASSERT_EQ(c.size(), 7);
     EXPECT_EQ(c[0], u"Impressão: Não há registros a imprimir"_s);
     EXPECT_EQ(c[1], u"Impressão: A página configurada para o relatório não possuí espaço suficiente para a "

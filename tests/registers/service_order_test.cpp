@@ -73,13 +73,10 @@ TEST_F(ordem, the_entry_windows_check_their_fields_and_the_lists_lose_rows) {
     frmcadservord::aberto()->txtnome->setText(u"Reparo"_s);
     frmcadservord::aberto()->cmdadicionar->click();
     frmcadservord::aberto()->close();
-    QStringList textos;
-    for (const auto& b : prompts_.boxes())
-        textos << b.title + u": "_s + b.text;
-    EXPECT_EQ(textos, QStringList({u"Erro: O nome do produto deve ser digitado!"_s,
-                                   u"Erro: O valor do produto deve ser digitado!"_s,
-                                   u"Erro: O tipo de serviço deve ser digitado!"_s,
-                                   u"Erro: O valor do serviço deve ser digitado!"_s}));
+    EXPECT_EQ(boxes(), QStringList({u"Erro: O nome do produto deve ser digitado!"_s,
+                                    u"Erro: O valor do produto deve ser digitado!"_s,
+                                    u"Erro: O tipo de serviço deve ser digitado!"_s,
+                                    u"Erro: O valor do serviço deve ser digitado!"_s}));
     EXPECT_EQ(f->lstprodutos->row_count() + f->lstservicos->row_count(), 0);
     prompts_.clear();
 

@@ -13,6 +13,13 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
+// Readable failures.
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
+
 namespace support {
 
 class fixture : public ::testing::Test {
@@ -27,6 +34,13 @@ protected:
     void exec(const QString& statement);
     // The rows of a statement, each as its fields' texts joined by '|'.
     QStringList rows(const QString& statement);
+    // Every message box so far as "title: text".
+    QStringList boxes() const {
+        QStringList out;
+        for (const auto& b : prompts_.boxes())
+            out << b.title + QStringLiteral(": ") + b.text;
+        return out;
+    }
 
     platform::fixed_clock clock_{QDateTime(QDate(2026, 11, 23), QTime(10, 0))};
     platform::scripted_prompts prompts_;

@@ -97,6 +97,13 @@ QByteArray read_file(const QString& path) {
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
+QString table_text(const std::vector<QStringList>& rows) {
+    QString out;
+    for (const QStringList& r : rows)
+        out += QLatin1Char('[') + r.join(QStringLiteral("] [")) + QStringLiteral("]\n");
+    return out;
+}
+
 QStringList bracketed(const QString& line) {
     QStringList out;
     for (qsizetype open = line.indexOf(QLatin1Char('[')); open >= 0;) {

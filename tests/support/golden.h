@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -30,6 +31,12 @@ QStringList bracketed(const QString& line);
 
 // The bytes of a file; empty when it cannot be read.
 QByteArray read_file(const QString& path);
+// The same as UTF-8 text.
+inline QString read_text(const QString& path) {
+    return QString::fromUtf8(read_file(path));
+}
+// Rows one per line, cells in brackets so their blanks show.
+QString table_text(const std::vector<QStringList>& rows);
 
 // The pages of a PDF as pdftotext lays them out.
 QStringList pdf_pages(const QString& pdf);

@@ -2,16 +2,12 @@
 // A list for the report tests: headings with widths in twips and rows of texts.
 
 #include "platform/table_source.h"
+#include "support/fixture.h"
 
 #include <QStringList>
 
 #include <ostream>
 #include <vector>
-
-// Readable failures.
-inline void PrintTo(const QString& s, std::ostream* os) {
-    *os << '"' << s.toStdString() << '"';
-}
 
 namespace testing_output {
 

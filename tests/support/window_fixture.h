@@ -79,6 +79,12 @@ protected:
         c->setCurrentIndex(i);
         Q_EMIT c->activated(i);
     }
+    // A main-menu item, triggered as a click would (it must be enabled).
+    void menu(const char* name) {
+        QAction* a = p->findChild<QAction*>(QString::fromLatin1(name));
+        ASSERT_TRUE(a && a->isEnabled()) << name;
+        a->trigger();
+    }
     // A pop-up item of the main window, triggered as a click would (it must be enabled).
     void popup(const char* menu, const char* name) {
         QMenu* m = p->findChild<QMenu*>(QString::fromLatin1(menu));
@@ -124,13 +130,6 @@ protected:
         QStringList out;
         for (int r = 0; r < l->row_count(); ++r)
             out << l->text(r, c);
-        return out;
-    }
-    // Every message box so far as "title: text".
-    QStringList boxes() const {
-        QStringList out;
-        for (const auto& b : prompts_.boxes())
-            out << b.title + u": "_s + b.text;
         return out;
     }
 

@@ -19,10 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString read_text(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
+using support::read_text;
 
 // The window, its labels and buttons, and each list with its headings (width and sort tag).
 QString dump(const QWidget& w) {
