@@ -257,7 +257,7 @@ lista_lida ler_lista(const membro& m, const QString& consulta, const std::functi
     out.vazio = false;
     if (antes) antes(n);
     const bool mov = m.v == vista::movimento;
-    const auto f = [mov](QString s) { return mov ? com_espaco(s) : s; };
+    const auto f = [mov](const QString& s) { return mov ? com_espaco(s) : s; };
     out.linhas.reserve(std::size_t(n));
     using namespace store;
     const int i_data = rs.index_of(coluna::data);

@@ -216,14 +216,8 @@ TEST_F(cash_flow, general_view_balance_html_and_print) {
               u"Total de receitas: R$ 100,50 - Total de despesas: R$ 40,71 - Saldo: R$ 60,00"_s);
     EXPECT_EQ(f->lblest2->text(), u"Total de cadastros: 4"_s);
 
-    const QString arquivo = path(u"fluxo_geral.html"_s);
-    prompts_.clear();
-    prompts_.answer_text(arquivo);
-    f->cmdhtml->click();
-    ASSERT_EQ(prompts_.records().size(), 2u);
-    EXPECT_EQ(prompts_.records()[0].title, u"Salvar relatório de fluxo de caixa em html"_s);
-    EXPECT_EQ(prompts_.records()[0].filter, u"Arquivos HTML(*.html)|*.html"_s);
-    EXPECT_TRUE(support::file_matches_golden(u"analysis/fluxo_geral.html"_s, arquivo));
+    EXPECT_TRUE(saves([&] { f->cmdhtml->click(); }, u"Salvar relatório de fluxo de caixa em html"_s,
+                      u"Arquivos HTML(*.html)|*.html"_s, u"analysis/fluxo_geral.html"_s));
 
     f->cmdimprimir->click();
     const QStringList impresso = support::pdf_lines(pdf_.path());

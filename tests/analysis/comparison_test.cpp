@@ -74,16 +74,9 @@ TEST_F(comparison, years_figures_differences_and_files) {
                    "Arquivos de Texto(*.txt)|*.txt", "comparacao_anos.txt"},
                   {f->cmdhtmlano, "Salvar comparação de despesas por ano em html",
                    "Arquivos HTML (*.html)|*.html", "comparacao_anos.html"}};
-    for (const auto& s : saidas) {
-        prompts_.clear();
-        const QString arquivo = path(QString::fromUtf8(s.arquivo));
-        prompts_.answer_text(arquivo);
-        s.botao->click();
-        ASSERT_EQ(prompts_.records().size(), 2u);
-        EXPECT_EQ(prompts_.records()[0].title, QString::fromUtf8(s.titulo));
-        EXPECT_EQ(prompts_.records()[0].filter, QString::fromUtf8(s.filtro));
-        EXPECT_TRUE(support::file_matches_golden(u"analysis/"_s + QString::fromUtf8(s.arquivo), arquivo));
-    }
+    for (const auto& s : saidas)
+        EXPECT_TRUE(saves([&] { s.botao->click(); }, QString::fromUtf8(s.titulo), QString::fromUtf8(s.filtro),
+                          u"analysis/"_s + QString::fromUtf8(s.arquivo)));
 
     // the same year on both sides: nothing differs
     f->cboano2->setCurrentText(u"2024"_s);

@@ -188,17 +188,9 @@ TEST_F(integrated, generator_window_chooser_result_files_and_print) {
         {r->cmdtxt, "Salvar relatório em txt", "Arquivos de Texto(*.txt)|*.txt", "relatorio_integrado.txt"},
         {r->cmdhtml, "Salvar relatório integrado em html", "Arquivos HTML(*.html)|*.html",
          "relatorio_integrado.html"}};
-    for (const auto& s : saidas) {
-        prompts_.clear();
-        const QString arquivo = path(QString::fromUtf8(s.arquivo));
-        prompts_.answer_text(arquivo);
-        s.botao->click();
-        ASSERT_EQ(prompts_.records().size(), 2u);
-        EXPECT_EQ(prompts_.records()[0].title, QString::fromUtf8(s.titulo));
-        EXPECT_EQ(prompts_.records()[0].filter, QString::fromUtf8(s.filtro));
-        EXPECT_EQ(prompts_.records()[1].title, u"Visualizar"_s);
-        EXPECT_TRUE(support::file_matches_golden(u"analysis/"_s + QString::fromUtf8(s.arquivo), arquivo));
-    }
+    for (const auto& s : saidas)
+        EXPECT_TRUE(saves([&] { s.botao->click(); }, QString::fromUtf8(s.titulo), QString::fromUtf8(s.filtro),
+                          u"analysis/"_s + QString::fromUtf8(s.arquivo)));
 
     r->cmdimprimir->click();
     QStringList impresso = support::pdf_lines(pdf_.path());

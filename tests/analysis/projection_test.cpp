@@ -120,16 +120,9 @@ TEST_F(projection, expenses_panel_result_files_and_print) {
                    "Arquivos de Texto(*.txt)|*.txt", "projecao_despesas.txt"},
                   {f->desp.cmdhtml, "Salvar projeções e metas de despesas em html",
                    "Arquivos HTML (*.html)|*.html", "projecao_despesas.html"}};
-    for (const auto& s : saidas) {
-        prompts_.clear();
-        const QString arquivo = path(QString::fromUtf8(s.arquivo));
-        prompts_.answer_text(arquivo);
-        s.botao->click();
-        ASSERT_EQ(prompts_.records().size(), 2u);
-        EXPECT_EQ(prompts_.records()[0].title, QString::fromUtf8(s.titulo));
-        EXPECT_EQ(prompts_.records()[0].filter, QString::fromUtf8(s.filtro));
-        EXPECT_TRUE(support::file_matches_golden(u"analysis/"_s + QString::fromUtf8(s.arquivo), arquivo));
-    }
+    for (const auto& s : saidas)
+        EXPECT_TRUE(saves([&] { s.botao->click(); }, QString::fromUtf8(s.titulo), QString::fromUtf8(s.filtro),
+                          u"analysis/"_s + QString::fromUtf8(s.arquivo)));
 
     f->desp.cmdimprimir->click();
     QStringList impresso = support::pdf_lines(pdf_.path());

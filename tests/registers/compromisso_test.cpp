@@ -226,15 +226,11 @@ TEST_F(compromissos, exports_and_print_of_the_list) {
          u"lista.html"_s},
     };
     for (const auto& s : saidas) {
-        prompts_.clear();
-        prompts_.answer_text(path(s.arquivo));
-        prompts_.answer(platform::answer_no);
-        alt(w, s.letra);
-        ASSERT_EQ(prompts_.records().size(), 2u);
-        EXPECT_EQ(prompts_.records()[0].title, s.titulo);
-        EXPECT_EQ(prompts_.records()[0].filter, s.filtro);
-        EXPECT_EQ(prompts_.records()[1].title, u"Visualizar"_s);
-        EXPECT_TRUE(support::file_matches_golden(u"registers/"_s + s.arquivo, path(s.arquivo)));
+        const auto salvar = [&] {
+            prompts_.answer(platform::answer_no);
+            alt(w, s.letra);
+        };
+        EXPECT_TRUE(saves(salvar, s.titulo, s.filtro, u"registers/"_s + s.arquivo));
     }
     alt(w, Qt::Key_I);
     const QStringList texto = support::pdf_lines(pdf_.path());

@@ -6,6 +6,7 @@
 #include "store/conexao.h"
 #include "store/data_file.h"
 #include "store/program_dir.h"
+#include "support/golden.h"
 
 #include <QDir>
 #include <QFile>
@@ -74,6 +75,23 @@ QStringList fixture::rows(const QString& statement) {
         out << f.join(QLatin1Char('|'));
     }
     return out;
+}
+
+::testing::AssertionResult fixture::saves(const std::function<void()>& salvar, const QString& titulo,
+                                          const QString& filtro, const QString& golden) {
+    prompts_.clear();
+    const QString arquivo = path(golden.section(QLatin1Char('/'), -1));
+    prompts_.answer_text(arquivo);
+    salvar();
+    const auto& r = prompts_.records();
+    if (r.size() != 2)
+        return ::testing::AssertionFailure() << r.size() << " prompts instead of the dialog and the question";
+    if (r[0].title != titulo || r[0].filter != filtro)
+        return ::testing::AssertionFailure()
+               << "dialog " << r[0].title.toStdString() << " | " << r[0].filter.toStdString();
+    if (r[1].title != QStringLiteral("Visualizar"))
+        return ::testing::AssertionFailure() << "question " << r[1].title.toStdString();
+    return file_matches_golden(golden, arquivo);
 }
 
 } // namespace support

@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <ostream>
 
 // Readable failures.
@@ -41,6 +42,12 @@ protected:
             out << b.title + QStringLiteral(": ") + b.text;
         return out;
     }
+
+    // A save through its file dialog: `salvar` opens the dialog, which is answered with a file of
+    // the program's folder named as `golden`'s last part; then the dialog's title and filter, the
+    // "Visualizar" question after it, and the written file against tests/data/<golden>.
+    ::testing::AssertionResult saves(const std::function<void()>& salvar, const QString& titulo,
+                                     const QString& filtro, const QString& golden);
 
     platform::fixed_clock clock_{QDateTime(QDate(2026, 11, 23), QTime(10, 0))};
     platform::scripted_prompts prompts_;

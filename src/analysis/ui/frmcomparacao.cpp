@@ -94,8 +94,8 @@ comparacao_window::comparacao_window(const char* nome, const analysis::lado_comp
         auto* g = new QGridLayout;
         for (int i = 0; i < 3; ++i) {
             g->addWidget(l[i], 0, i);
-            g->addWidget(t[2 * i], 1, i);
-            g->addWidget(t[2 * i + 1], 2, i);
+            g->addWidget(t[2L * i], 1, i);
+            g->addWidget(t[2L * i + 1], 2, i);
         }
         v->addLayout(g, 1);
         auto* bs = new QHBoxLayout;
@@ -205,8 +205,8 @@ void comparacao_window::mostrar(bool anos) {
     }
     for (int i = 0; i < 3; ++i) {
         l[i]->setText(i < a.rotulos.size() ? a.rotulos[i] : QString());
-        t[2 * i]->setPlainText(na_tela(a.blocos[i].texto));
-        t[2 * i + 1]->setPlainText(a.blocos[i].html);
+        t[2L * i]->setPlainText(na_tela(a.blocos[i].texto));
+        t[2L * i + 1]->setPlainText(a.blocos[i].html);
     }
 }
 

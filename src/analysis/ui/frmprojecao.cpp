@@ -30,7 +30,8 @@ class campo_meta : public money_field {
 protected:
     void focusOutEvent(QFocusEvent* e) override {
         setText(analysis::meta_ao_sair(text()));
-        QLineEdit::focusOutEvent(e);
+        // past the money field's own leaving, which would format the marked text again
+        QLineEdit::focusOutEvent(e); // NOLINT(bugprone-parent-virtual-call)
     }
 };
 

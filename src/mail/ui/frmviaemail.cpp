@@ -143,9 +143,11 @@ QWidget* frmviaemail::montar_pagina(bool ret) {
         const std::pair<QRadioButton*, tipo_ret> opcoes[] = {{opttodosret, tipo_ret::todos},
                                                              {optpendentesret, tipo_ret::pendentes},
                                                              {optconcluidosret, tipo_ret::concluidos}};
-        for (const auto& [o, t] : opcoes) {
-            tv->addWidget(o);
-            connect(o, &QRadioButton::clicked, this, [t] { gravar(chave::tiporet, texto_tipo(t)); });
+        for (const auto& opcao : opcoes) {
+            const tipo_ret t = opcao.second;
+            tv->addWidget(opcao.first);
+            connect(opcao.first, &QRadioButton::clicked, this,
+                    [t] { gravar(chave::tiporet, texto_tipo(t)); });
         }
         v->addWidget(tipos);
     }

@@ -125,14 +125,8 @@ TEST_F(statement, the_dialog_fills_the_window_which_saves_and_prints) {
     EXPECT_EQ(w->lblmovimento->text(), u"R$ 200,00"_s);
     EXPECT_EQ(w->lstmovimento->row_count(), 4);
 
-    prompts_.clear();
-    prompts_.answer_text(path(u"extrato.html"_s));
-    w->cmdhtml->click();
-    ASSERT_EQ(prompts_.records().size(), 2u);
-    EXPECT_EQ(prompts_.records()[0].title, u"Salvar relatório de extrato bancário html"_s);
-    EXPECT_EQ(prompts_.records()[0].filter, u"Arquivos HTML(*.html)|*.html"_s);
-    EXPECT_EQ(prompts_.records()[1].title, u"Visualizar"_s);
-    EXPECT_TRUE(support::file_matches_golden(u"banks/extrato.html"_s, path(u"extrato.html"_s)));
+    EXPECT_TRUE(saves([&] { w->cmdhtml->click(); }, u"Salvar relatório de extrato bancário html"_s,
+                      u"Arquivos HTML(*.html)|*.html"_s, u"banks/extrato.html"_s));
 
     platform::pdf_target pdf(path(u"extrato.pdf"_s));
     platform::set_print_destination(&pdf);
