@@ -28,18 +28,7 @@ bool imprimir_fluxo_geral(const platform::table_source& pagar, const platform::t
                           output::progress* barra) {
     try {
         platform::printer p;
-        platform::page_format format;
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(caption, format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            mod::erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!mod::comecar(p, caption)) return false;
         if (barra) barra->set_visible(true);
         p.set_FontName(u"Arial"_s);
         mod::estado e{caption.toUpper(), {}, 0, 0};

@@ -27,18 +27,7 @@ void linhas(platform::printer& p, const QString& texto) {
 bool imprimir_comparacao(const QString& titulo, const aba_comparacao& a) {
     try {
         platform::printer p;
-        platform::page_format format;
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(titulo, format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            mod::erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!mod::comecar(p, titulo)) return false;
         p.set_FontName(u"Arial"_s);
         p.set_FontSize(11);
         p.print(titulo);

@@ -12,18 +12,7 @@ namespace mod = output::modimpressao;
 bool imprimir_projecao(const lado_projecao& l, const QString& texto) {
     try {
         platform::printer p;
-        platform::page_format format;
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(l.titulo, format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            mod::erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!mod::comecar(p, l.titulo)) return false;
         p.set_FontName(u"Arial"_s);
         p.set_FontSize(11);
         p.print(l.titulo);

@@ -49,18 +49,7 @@ bool imprimir_estatisticas(const std::vector<QStringList>& linhas, const QString
                            output::progress* barra) {
     try {
         platform::printer p;
-        platform::page_format format;
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(QStringLiteral("Estatísticas de Caixa/Banco"), format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            output::modimpressao::erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!output::modimpressao::comecar(p, QStringLiteral("Estatísticas de Caixa/Banco"))) return false;
         if (barra) barra->set_visible(true);
         p.set_font(QStringLiteral("Arial"), 14, true);
         p.set_CurrentY(20);

@@ -37,18 +37,7 @@ bool imprimir_extrato(const extrato_textos& t, const platform::table_source& pag
                       output::progress* barra) {
     try {
         platform::printer p;
-        platform::page_format format;
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(t.caption, format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            mi::erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!mi::comecar(p, t.caption)) return false;
         if (barra) barra->set_visible(true);
         p.set_font(QStringLiteral("Arial"), 11);
         mi::estado e{t.caption, QStringLiteral("Período filtrado: ") + t.filtro, 0, 0};

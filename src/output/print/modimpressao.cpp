@@ -159,18 +159,7 @@ bool imprimir_blocos(cabecalho c, const QString& titulo, const QString& subtitul
                      const std::vector<bloco>& blocos) {
     try {
         platform::printer p;
-        platform::page_format format;
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(titulo, format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!comecar(p, titulo)) return false;
         p.set_FontName(QStringLiteral("Arial"));
         estado e{titulo, subtitulo, 0, 0};
         cabecalho_pagina(p, e, c);
@@ -199,6 +188,23 @@ bool imprimir_blocos(cabecalho c, const QString& titulo, const QString& subtitul
     }
 }
 
+bool comecar(platform::printer& p, const QString& titulo) {
+    platform::page_format format;
+    // about the unprintable edge of a sheet, where the old printer object started
+    format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
+    switch (p.begin(titulo, format)) {
+    case platform::printer::started:
+        return true;
+    case platform::printer::no_printer:
+    case platform::printer::failed:
+        erro_impressao();
+        return false;
+    case platform::printer::cancelled:
+        break;
+    }
+    return false;
+}
+
 void erro_impressao() {
     platform::msgbox(
         QStringLiteral("Ocorreu um erro ao tentar imprimir, verifique se a impressora está ligada e "
@@ -210,19 +216,7 @@ bool imprimir_lista(cabecalho c, const platform::table_source& lista, const QStr
                     const QString& subtitulo, const QString& totais, progress* barra) {
     try {
         platform::printer p;
-        platform::page_format format;
-        // about the unprintable edge of a sheet, where the old printer object started
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(titulo, format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!comecar(p, titulo)) return false;
         if (barra) barra->set_visible(true);
         const auto let_through = [barra] {
             if (barra) QCoreApplication::processEvents();

@@ -74,5 +74,9 @@ bool imprimir_lista(cabecalho c, const platform::table_source& lista, const QStr
 // "Ocorreu um erro ao tentar imprimir, ..." (title "Erro", critical icon).
 void erro_impressao();
 
+// Starts a job with the sheet's usual margins. False when the user cancelled, or when there is no
+// printer or the job failed (then after the "Erro" box).
+bool comecar(platform::printer& p, const QString& titulo);
+
 } // namespace modimpressao
 } // namespace output

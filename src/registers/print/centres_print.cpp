@@ -20,18 +20,7 @@ bool imprimir_resumo(centro c, const platform::table_source& lista, const QStrin
     namespace mod = output::modimpressao;
     try {
         platform::printer p;
-        platform::page_format format;
-        format.margins_mm = QMarginsF(6.35, 6.35, 6.35, 6.35);
-        switch (p.begin(gemeo(c).titulo, format)) {
-        case platform::printer::cancelled:
-            return false;
-        case platform::printer::no_printer:
-        case platform::printer::failed:
-            mod::erro_impressao();
-            return false;
-        case platform::printer::started:
-            break;
-        }
+        if (!mod::comecar(p, gemeo(c).titulo)) return false;
         p.set_font(u"Arial"_s, 10);
         linha(p, gemeo(c).titulo);
         mod::regua(p, u"_"_s, 87);
