@@ -31,7 +31,10 @@ bar_chart::bar_chart(QWidget* parent) : QChartView(parent) {
     c->addAxis(valores_, Qt::AlignLeft);
     series->attachAxis(categorias_);
     series->attachAxis(valores_);
+    // the view made a chart of its own, which is ours to delete once replaced
+    QChart* own = chart();
     setChart(c);
+    delete own;
     setRenderHint(QPainter::Antialiasing);
     setMinimumSize(560, 340);
     ajustar_eixo();
