@@ -86,7 +86,7 @@ void BM_load_rows(benchmark::State& state) {
     for (auto _ : state) {
         rs.move_first();
         shell::ledger_view v = shell::load_rows(shell::ledger::pagar, rs);
-        benchmark::DoNotOptimize(v.rows.data());
+        benchmark::DoNotOptimize(v.rows.size());
     }
     state.SetItemsProcessed(state.iterations() * rs.record_count());
 }
@@ -100,7 +100,7 @@ void BM_carregarpagar(benchmark::State& state) {
                                               shell::default_entry_filters(shell::ledger::pagar), hoje, {});
         shell::ledger_view v = shell::load_ledger(shell::ledger::pagar, s.consulta);
         n = v.rows.size();
-        benchmark::DoNotOptimize(v.rows.data());
+        benchmark::DoNotOptimize(v.rows.size());
     }
     state.SetItemsProcessed(state.iterations() * std::int64_t(n));
     state.counters["linhas"] = double(n);

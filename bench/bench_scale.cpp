@@ -263,8 +263,8 @@ void dump(const QString& out_path) {
                     const shell::ledger_view v = shell::load_ledger(w, st.consulta);
                     // the rows in order, as one digest: the lists above are written out in full
                     QCryptographicHash h(QCryptographicHash::Sha1);
-                    for (const QStringList& row : v.rows)
-                        h.addData(row.join(QLatin1Char('\t')).append(QLatin1Char('\n')).toUtf8());
+                    for (std::size_t r = 0; r < v.rows.size(); ++r)
+                        h.addData(v.rows.row(r).join(QLatin1Char('\t')).append(QLatin1Char('\n')).toUtf8());
                     out << st.consulta << "\t" << v.rows.size() << "\t" << h.result().toHex() << "\t"
                         << v.label << "\n";
                 }

@@ -38,7 +38,7 @@ vencimentos carregar_vencimentos(shell::ledger which, const QDate& hoje) {
         if (rs.eof()) return;
         rs.move_last();
         rs.move_first();
-        v.mes = shell::load_rows(which, rs).rows;
+        v.mes = shell::load_rows(which, rs).rows.to_lists();
     });
     const QString hoje_ymd = vb::ymd(hoje);
     const QString formato = QStringLiteral("yyyy/mm/dd");

@@ -18,7 +18,7 @@ std::vector<QStringList> load_due(ledger which, const QDate& today) {
     try {
         sql::recordset rs;
         rs.open(due_statement(which, today), store::conexao, sql::keyset, sql::read_only);
-        return load_rows(which, rs).rows;
+        return load_rows(which, rs).rows.to_lists();
     } catch (const std::exception&) {
         // errors are ignored: the list stays empty
         return {};

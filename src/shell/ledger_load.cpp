@@ -6,9 +6,10 @@
 #include "store/conexao.h"
 #include "store/names.h"
 
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 #include <exception>
 #include <limits>
@@ -23,50 +24,38 @@ namespace {
 
 const QString fmt_dmy = u"dd/mm/yyyy"_s;
 
-inline bool is_digit(QChar c) {
-    return c.unicode() >= '0' && c.unicode() <= '9';
+// Stored text that is not UTF-8 shows as the decoder reads it, piece by piece.
+QByteArrayView valid_utf8(QByteArrayView bytes, QByteArray& keep) {
+    if (bytes.isValidUtf8()) return bytes;
+    keep = QString::fromUtf8(bytes).toUtf8();
+    return keep;
 }
 
-inline int digits(const QChar* p, int n) {
-    int v = 0;
-    for (int i = 0; i < n; ++i)
-        v = v * 10 + (p[i].unicode() - '0');
-    return v;
-}
-
-// Ledgers repeat their words, names, dates and blanks from row to row: equal texts of a column
-// share one string, which spares most of the memory of a long list and the time to free it. The
-// stored bytes are the key, so a repeated text is neither decoded nor hashed as UTF-16 again.
-class shared_texts {
-public:
-    // The display text of a stored text, made once per distinct stored text.
-    template <class F> QString get(QByteArrayView bytes, F&& make) {
-        const std::string_view key(bytes.data(), std::size_t(bytes.size()));
-        const auto it = seen_.find(key);
-        if (it != seen_.end()) return it->second;
-        QString shown = make(QString::fromUtf8(bytes));
-        // a column of unique texts stops growing the table
-        if (seen_.size() < limit) seen_.emplace(std::string(key), shown);
-        return shown;
-    }
-    QString get(QByteArrayView bytes) {
-        return get(bytes, [](const QString& s) { return s; });
-    }
-
-private:
-    struct hash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>()(s); }
+// The two forms of a date the file holds, as the lists show it ("dd/mm/yyyy"); nothing for
+// anything else, which goes through the date format.
+std::optional<std::array<char, 10>> quick_display_date(const char* p, qsizetype n) {
+    if (n != 10) return std::nullopt;
+    const auto all_digits = [p](std::initializer_list<int> at) {
+        for (int i : at)
+            if (p[i] < '0' || p[i] > '9') return false;
+        return true;
     };
-    static constexpr std::size_t limit = 8192;
-    std::unordered_map<std::string, QString, hash, std::equal_to<>> seen_;
-};
-
-QString with_blank(const QString& s) {
-    QString out;
-    out.reserve(s.size() + 1);
-    out.append(s).append(QLatin1Char(' '));
-    return out;
+    const auto number = [p](int from, int len) {
+        int v = 0;
+        for (int i = from; i < from + len; ++i)
+            v = v * 10 + (p[i] - '0');
+        return v;
+    };
+    if (p[4] == '/' && p[7] == '/' && all_digits({0, 1, 2, 3, 5, 6, 8, 9})) {
+        const int y = number(0, 4), m = number(5, 2), d = number(8, 2);
+        if (y >= 1000 && QDate::isValid(y, m, d))
+            return std::array<char, 10>{p[8], p[9], '/', p[5], p[6], '/', p[0], p[1], p[2], p[3]};
+    } else if (p[2] == '/' && p[5] == '/' && all_digits({0, 1, 3, 4, 6, 7, 8, 9})) {
+        const int d = number(0, 2), m = number(3, 2), y = number(6, 4);
+        if (y >= 1000 && QDate::isValid(y, m, d))
+            return std::array<char, 10>{p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7], p[8], p[9]};
+    }
+    return std::nullopt;
 }
 
 // The display text of a stored amount and what it adds to a total: the text through
@@ -120,7 +109,7 @@ struct tally {
 
 // The rows of a walk in reading order, and what each adds.
 struct walked {
-    std::vector<QStringList> rows;
+    platform::row_table rows;
     std::vector<tally> tallies;
 };
 
@@ -145,6 +134,37 @@ template <class Source> inline QByteArrayView stored(const Source& src, int inde
     return index < 0 ? QByteArrayView() : src.raw(index);
 }
 
+// Builds one cell from pieces, reusing its buffer from row to row.
+class cell_text {
+public:
+    cell_text& clear() {
+        buf_.clear();
+        return *this;
+    }
+    cell_text& add(QByteArrayView bytes) {
+        const QByteArrayView b = valid_utf8(bytes, keep_);
+        buf_.append(b.data(), std::size_t(b.size()));
+        return *this;
+    }
+    cell_text& add(const QString& text) {
+        keep_ = text.toUtf8();
+        buf_.append(keep_.constData(), std::size_t(keep_.size()));
+        return *this;
+    }
+    cell_text& date(QByteArrayView stored) {
+        if (const auto quick = quick_display_date(stored.data(), stored.size()))
+            buf_.append(quick->data(), quick->size());
+        else
+            add(display_date(QString::fromUtf8(stored)));
+        return *this;
+    }
+    QByteArrayView bytes() const { return {buf_.data(), qsizetype(buf_.size())}; }
+
+private:
+    std::string buf_;
+    QByteArray keep_;
+};
+
 template <class Source> void walk_entries(ledger which, Source& rs, walked& w) {
     const int i_codigo = rs.index_of(store::coluna::codigo);
     const int i_data = rs.index_of(store::coluna::data);
@@ -157,30 +177,25 @@ template <class Source> void walk_entries(ledger which, Source& rs, walked& w) {
     const int i_estatus = rs.index_of(store::coluna::estatus);
     const int i_origem = rs.index_of(store::coluna::origem);
     const int i_informacoes = rs.index_of(store::coluna::informacoes);
-    const QString& pendente = store::palavra::pendente;
-    shared_texts datas, descricoes, documentos, contatos, moedas, estatus_, origens, informacoes;
+    const QByteArray pendente = store::palavra::pendente.toUtf8();
+    platform::row_table& t = w.rows;
+    cell_text cell;
 
     while (rs.next()) {
         const amount a = read_amount(QString::fromUtf8(stored(rs, i_valor)));
-        QString estatus = estatus_.get(stored(rs, i_estatus));
-        const QString moeda = moedas.get(stored(rs, i_moeda), with_blank);
-        QString valor;
-        valor.reserve(moeda.size() + a.text.size());
-        valor.append(moeda).append(a.text);
-        QStringList row;
-        row.reserve(10);
-        row.append(QString::fromUtf8(stored(rs, i_codigo)));
-        row.append(datas.get(stored(rs, i_data), display_date));
-        row.append(descricoes.get(stored(rs, i_descricao)));
-        row.append(documentos.get(stored(rs, i_documento), with_blank));
-        row.append(contatos.get(stored(rs, i_contato)));
-        row.append(datas.get(stored(rs, i_vencimento), display_date));
-        row.append(std::move(valor));
+        const QByteArrayView estatus = stored(rs, i_estatus);
+        t.add_cell(stored(rs, i_codigo));
+        t.add_cell(cell.clear().date(stored(rs, i_data)).bytes());
+        t.add_cell(stored(rs, i_descricao));
+        t.add_cell(cell.clear().add(stored(rs, i_documento)).add(QByteArrayView(" ")).bytes());
+        t.add_cell(stored(rs, i_contato));
+        t.add_cell(cell.clear().date(stored(rs, i_vencimento)).bytes());
+        t.add_cell(cell.clear().add(stored(rs, i_moeda)).add(QByteArrayView(" ")).add(a.text).bytes());
+        t.add_cell(estatus);
+        t.add_cell(stored(rs, i_origem));
+        t.add_cell(cell.clear().add(stored(rs, i_informacoes)).add(QByteArrayView(" ")).bytes());
+        t.end_row();
         w.tallies.push_back({a.addend, a.counts, std::uint8_t(estatus == pendente ? 1 : 0)});
-        row.append(std::move(estatus));
-        row.append(origens.get(stored(rs, i_origem)));
-        row.append(informacoes.get(stored(rs, i_informacoes), with_blank));
-        w.rows.push_back(std::move(row));
     }
 }
 
@@ -193,45 +208,48 @@ template <class Source> void walk_movements(Source& rs, walked& w) {
     const int i_valor = rs.index_of(store::coluna::valor);
     const int i_estatus = rs.index_of(store::coluna::estatus);
     const int i_informacoes = rs.index_of(store::coluna::informacoes);
-    const QString rs_prefix = u"R$ "_s;
     const QString deposito_upper = store::palavra::deposito.toUpper();
     const QString retirada_upper = store::palavra::retirada.toUpper();
-    shared_texts datas, movimentos, contas, estatus, informacoes;
+    // kinds compare in upper case; anything else counts as a transfer
+    const auto bucket_of = [&](const QString& movimento) -> std::uint8_t {
+        if (movimento == store::palavra::deposito ||
+            (movimento != store::palavra::retirada && movimento.toUpper() == deposito_upper))
+            return 0;
+        if (movimento == store::palavra::retirada || movimento.toUpper() == retirada_upper) return 1;
+        return 2;
+    };
+    // a column of few words: the kind of the last word seen is kept
+    std::string last_kind;
+    std::uint8_t last_bucket = 0;
+    bool any_kind = false;
+    platform::row_table& t = w.rows;
+    cell_text cell;
 
     while (rs.next()) {
         const amount a = read_amount(QString::fromUtf8(stored(rs, i_valor)));
-        QString movimento = movimentos.get(stored(rs, i_movimento));
-        QStringList row;
-        row.reserve(8);
-        row.append(QString::fromUtf8(stored(rs, i_codigo)));
-        row.append(datas.get(stored(rs, i_data), display_date));
-        // kinds compare in upper case; anything else counts as a transfer
-        const bool deposito =
-            movimento == store::palavra::deposito ||
-            (movimento != store::palavra::retirada && movimento.toUpper() == deposito_upper);
-        std::uint8_t bucket = 2;
-        if (deposito)
-            bucket = 0;
-        else if (movimento == store::palavra::retirada || movimento.toUpper() == retirada_upper)
-            bucket = 1;
-        w.tallies.push_back({a.addend, a.counts, bucket});
-        QString valor;
-        valor.reserve(rs_prefix.size() + a.text.size());
-        valor.append(rs_prefix).append(a.text);
-        row.append(std::move(movimento));
-        row.append(contas.get(stored(rs, i_origem)));
-        row.append(contas.get(stored(rs, i_destino)));
-        row.append(std::move(valor));
-        row.append(estatus.get(stored(rs, i_estatus)));
-        row.append(informacoes.get(stored(rs, i_informacoes)));
-        w.rows.push_back(std::move(row));
+        const QByteArrayView movimento = stored(rs, i_movimento);
+        const std::string_view kind(movimento.data(), std::size_t(movimento.size()));
+        if (!any_kind || kind != last_kind) {
+            last_kind.assign(kind);
+            last_bucket = bucket_of(QString::fromUtf8(movimento));
+            any_kind = true;
+        }
+        t.add_cell(stored(rs, i_codigo));
+        t.add_cell(cell.clear().date(stored(rs, i_data)).bytes());
+        t.add_cell(movimento);
+        t.add_cell(stored(rs, i_origem));
+        t.add_cell(stored(rs, i_destino));
+        t.add_cell(cell.clear().add(QByteArrayView("R$ ")).add(a.text).bytes());
+        t.add_cell(stored(rs, i_estatus));
+        t.add_cell(stored(rs, i_informacoes));
+        t.end_row();
+        w.tallies.push_back({a.addend, a.counts, last_bucket});
     }
 }
 
 // The rows in the given order, the sums and the label.
-ledger_view finish(ledger which, walked&& w, const std::vector<std::uint32_t>& order) {
+ledger_view finish(ledger which, walked&& w, std::vector<std::uint32_t> order) {
     ledger_view v;
-    v.rows.reserve(w.rows.size());
     const auto add = [&](const tally& t) {
         if (which != ledger::bancario) {
             if (!t.counts) return;
@@ -244,19 +262,16 @@ ledger_view finish(ledger which, walked&& w, const std::vector<std::uint32_t>& o
         if (t.counts) vb::add_or_keep(*sums[t.bucket], t.addend);
         ++*counts[t.bucket];
     };
-    for (const std::uint32_t i : order) {
-        // a walk stopped by an error may have keyed a row it did not finish
-        if (i >= w.rows.size()) continue;
+    v.rows = std::move(w.rows);
+    v.rows.set_order(std::move(order));
+    for (const std::uint32_t i : v.rows.order())
         add(w.tallies[i]);
-        v.rows.push_back(std::move(w.rows[i]));
-    }
     v.label = which == ledger::bancario ? movement_label(v) : entry_label(which, v);
     return v;
 }
 
 template <class Source> walked walk(ledger which, Source& src, std::size_t expected) {
     walked w;
-    w.rows.reserve(expected);
     w.tallies.reserve(expected);
     // the loop ends where it failed; what was read stays
     platform::ignore_errors([&] {
@@ -271,28 +286,16 @@ template <class Source> walked walk(ledger which, Source& src, std::size_t expec
 } // namespace
 
 QString display_date(const QString& stored) {
-    // The two forms the file holds take a short road; anything else goes through the format.
     if (stored.size() == 10) {
-        const QChar* p = stored.constData();
-        const auto all_digits = [p](std::initializer_list<int> at) {
-            for (int i : at)
-                if (!is_digit(p[i])) return false;
-            return true;
-        };
-        if (p[4] == QLatin1Char('/') && p[7] == QLatin1Char('/') && all_digits({0, 1, 2, 3, 5, 6, 8, 9})) {
-            const int y = digits(p, 4), m = digits(p + 5, 2), d = digits(p + 8, 2);
-            if (y >= 1000 && QDate::isValid(y, m, d)) {
-                QString out(10, Qt::Uninitialized);
-                QChar* o = out.data();
-                o[0] = p[8], o[1] = p[9], o[2] = QLatin1Char('/'), o[3] = p[5], o[4] = p[6];
-                o[5] = QLatin1Char('/'), o[6] = p[0], o[7] = p[1], o[8] = p[2], o[9] = p[3];
-                return out;
-            }
-        } else if (p[2] == QLatin1Char('/') && p[5] == QLatin1Char('/') &&
-                   all_digits({0, 1, 3, 4, 6, 7, 8, 9})) {
-            const int d = digits(p, 2), m = digits(p + 3, 2), y = digits(p + 6, 4);
-            if (y >= 1000 && QDate::isValid(y, m, d)) return stored;
+        char ascii[10];
+        bool narrow = true;
+        for (int i = 0; i < 10 && narrow; ++i) {
+            narrow = stored[i].unicode() < 0x80;
+            ascii[i] = char(stored[i].unicode());
         }
+        if (narrow)
+            if (const auto quick = quick_display_date(ascii, 10))
+                return QString::fromLatin1(quick->data(), 10);
     }
     return vb::format_date_text(stored, fmt_dmy);
 }
@@ -301,7 +304,7 @@ ledger_view load_rows(ledger which, sql::recordset& rs) {
     const long n = rs.record_count() - rs.absolute_position();
     recordset_rows src(rs);
     walked w = walk(which, src, n > 0 ? std::size_t(n) : 0);
-    std::vector<std::uint32_t> order(w.rows.size());
+    std::vector<std::uint32_t> order(w.rows.stored());
     std::iota(order.begin(), order.end(), 0u);
     return finish(which, std::move(w), order);
 }

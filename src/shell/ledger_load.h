@@ -2,6 +2,7 @@
 // Turns the rows of pagar, receber or bancario into the display texts of the ledger lists, with
 // the totals and the text of the label under the list. The window appends the rows in bulk.
 
+#include "platform/row_table.h"
 #include "platform/sql/recordset.h"
 #include "platform/text/vb_text.h"
 #include "shell/ledger_statement.h"
@@ -16,8 +17,9 @@
 namespace shell {
 
 struct ledger_view {
-    // One entry per row, in the column order of the list; column 0 is the código.
-    std::vector<QStringList> rows;
+    // The rows in the list's order, their cells in the column order of the list; column 0 is the
+    // código.
+    platform::row_table rows;
     // pagar / receber: all rows, settled rows ("pago", "recebido"), rows still "Pendente".
     vb::currency total, pago, pendente;
     // bancario: per kind of movement, sum and count.

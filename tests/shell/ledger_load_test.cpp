@@ -147,8 +147,9 @@ TEST_F(ledger_load, date_filters_on_the_stored_text) {
         f.filtro = filtro;
         f.baseado = baseado;
         QStringList out;
-        for (const QStringList& row : load_pagar(f, hoje).rows)
-            out << row[0];
+        const auto rows = load_pagar(f, hoje).rows;
+        for (std::size_t r = 0; r < rows.size(); ++r)
+            out << rows.text(r, 0);
         return out.join(QLatin1Char(','));
     };
     // "Mês anterior" in November runs from 2026/10/01 to the 31st of October

@@ -43,69 +43,6 @@ qint64 date_key(QStringView s) {
 
 } // namespace
 
-// Rows are kept as one text each, cells laid end to end with their offsets beside, and shown
-// through an order vector, so a sort moves indexes only. The texts lie in large blocks, one byte a
-// character when the row allows it (as most rows of this program do), two bytes otherwise: a
-// million rows hold no allocation of their own.
-class text_blocks {
-public:
-    struct ref {
-        std::uint32_t block;
-        std::uint32_t offset;
-        std::uint32_t size; // characters
-        bool wide;
-    };
-    ref add(const QStringList& cells, qsizetype total) {
-        bool narrow = true;
-        for (const QString& c : cells)
-            for (const QChar ch : c)
-                if (ch.unicode() > 0xff) {
-                    narrow = false;
-                    break;
-                }
-        const std::size_t bytes = std::size_t(total) * (narrow ? 1 : 2);
-        char* at = reserve(bytes);
-        ref r{std::uint32_t(blocks_.size() - 1), std::uint32_t(used_ - bytes), std::uint32_t(total), !narrow};
-        for (const QString& c : cells) {
-            if (narrow) {
-                for (const QChar ch : c)
-                    *at++ = char(ch.unicode());
-            } else {
-                std::memcpy(at, c.constData(), std::size_t(c.size()) * 2);
-                at += c.size() * 2;
-            }
-        }
-        return r;
-    }
-    QString text(const ref& r, std::uint32_t from, std::uint32_t n) const {
-        const char* p = blocks_[r.block].get() + r.offset;
-        if (!r.wide) return QString::fromLatin1(p + from, qsizetype(n));
-        QString out(qsizetype(n), Qt::Uninitialized);
-        std::memcpy(out.data(), p + std::size_t(from) * 2, std::size_t(n) * 2);
-        return out;
-    }
-    void clear() {
-        blocks_.clear();
-        blocks_.shrink_to_fit();
-        used_ = capacity_ = 0;
-    }
-
-private:
-    static constexpr std::size_t block_size = std::size_t(1) << 20;
-    char* reserve(std::size_t bytes) {
-        if (blocks_.empty() || used_ + bytes > capacity_) {
-            capacity_ = std::max(block_size, bytes);
-            blocks_.push_back(std::make_unique<char[]>(capacity_));
-            used_ = 0;
-        }
-        char* at = blocks_.back().get() + used_;
-        used_ += bytes;
-        return at;
-    }
-    std::vector<std::unique_ptr<char[]>> blocks_;
-    std::size_t used_ = 0, capacity_ = 0;
-};
-
 class list_model : public QAbstractTableModel {
 public:
     struct column {
@@ -119,7 +56,7 @@ public:
     QColor text_colour;
 
     int rowCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : int(order_.size());
+        return parent.isValid() ? 0 : int(rows_.size());
     }
     int columnCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : int(columns.size());
@@ -149,79 +86,49 @@ public:
         return {};
     }
 
-    QString cell(int row, int col) const {
-        if (row < 0 || row >= int(order_.size()) || col < 0) return {};
-        const std::size_t r = order_[std::size_t(row)];
-        const std::size_t n = counts_[r];
-        if (std::size_t(col) >= n) return {};
-        const std::size_t base = starts_[r];
-        const std::uint32_t a = offsets_[base + std::size_t(col)], b = offsets_[base + std::size_t(col) + 1];
-        return texts_.text(refs_[r], a, b - a);
-    }
+    QString cell(int row, int col) const { return row < 0 ? QString() : rows_.text(std::size_t(row), col); }
 
     void clear_rows() {
         beginResetModel();
-        texts_.clear();
-        refs_.clear();
-        refs_.shrink_to_fit();
-        offsets_.clear();
-        offsets_.shrink_to_fit();
-        starts_.clear();
-        counts_.clear();
-        order_.clear();
+        rows_.clear();
         endResetModel();
-    }
-
-    void append(const QStringList& cells) {
-        qsizetype total = 0;
-        starts_.push_back(offsets_.size());
-        counts_.push_back(std::uint32_t(cells.size()));
-        offsets_.push_back(0);
-        for (const QString& c : cells) {
-            total += c.size();
-            offsets_.push_back(std::uint32_t(total));
-        }
-        order_.push_back(refs_.size());
-        refs_.push_back(texts_.add(cells, total));
     }
 
     void add_rows(std::vector<QStringList>&& rows) {
         if (rows.empty()) return;
-        const int first = int(order_.size());
+        const int first = int(rows_.size());
         beginInsertRows({}, first, first + int(rows.size()) - 1);
-        refs_.reserve(refs_.size() + rows.size());
-        order_.reserve(order_.size() + rows.size());
-        starts_.reserve(starts_.size() + rows.size());
-        counts_.reserve(counts_.size() + rows.size());
         for (auto& r : rows) {
-            append(r);
+            rows_.add_row(r);
             r = QStringList(); // free as we go: the caller's copy and ours never both stay whole
         }
         endInsertRows();
-#ifdef __GLIBC__
-        // the rows just freed would otherwise stay with the process for good
-        if (rows.size() >= 10000) malloc_trim(0);
-#endif
+    }
+
+    void add_rows(platform::row_table&& rows) {
+        if (rows.empty()) return;
+        const int first = int(rows_.size());
+        beginInsertRows({}, first, first + int(rows.size()) - 1);
+        if (rows_.empty()) {
+            rows_ = std::move(rows);
+        } else {
+            for (std::size_t r = 0; r < rows.size(); ++r)
+                rows_.add_row(rows.row(r));
+            rows.clear();
+        }
+        endInsertRows();
     }
 
     void set_cell(int row, int col, const QString& text) {
-        if (row < 0 || row >= int(order_.size()) || col < 0) return;
-        const std::size_t r = order_[std::size_t(row)];
-        QStringList cells;
-        const int n = std::max(int(counts_[r]), col + 1);
-        for (int c = 0; c < n; ++c)
-            cells << (c == col ? text : cell(row, c));
-        // rewrite the row at the end of the stores and point the order at it
-        append(cells);
-        order_.pop_back();
-        order_[std::size_t(row)] = refs_.size() - 1;
+        if (row < 0 || row >= rowCount() || col < 0) return;
+        rows_.set_text(std::size_t(row), col, text);
         Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
     }
 
     void remove_row(int row) {
-        if (row < 0 || row >= int(order_.size())) return;
+        if (row < 0 || row >= rowCount()) return;
         beginRemoveRows({}, row, row);
-        order_.erase(order_.begin() + row);
+        rows_.remove(std::size_t(row));
         endRemoveRows();
     }
 
@@ -230,8 +137,9 @@ public:
         const int tag = columns[std::size_t(col)].tag;
         Q_EMIT layoutAboutToBeChanged();
         const QModelIndexList before = persistentIndexList();
-        std::vector<std::size_t> old_order = order_;
-        std::vector<int> rows(order_.size());
+        std::vector<std::uint32_t>& shown = rows_.order();
+        const std::vector<std::uint32_t> old_order = shown;
+        std::vector<int> rows(shown.size());
         std::iota(rows.begin(), rows.end(), 0);
         auto apply = [&](auto less) {
             if (order == Qt::AscendingOrder)
@@ -259,7 +167,7 @@ public:
         }
         std::vector<int> new_pos(rows.size());
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            order_[i] = old_order[std::size_t(rows[i])];
+            shown[i] = old_order[std::size_t(rows[i])];
             new_pos[std::size_t(rows[i])] = int(i);
         }
         QModelIndexList after;
@@ -275,12 +183,7 @@ public:
     }
 
 private:
-    text_blocks texts_;
-    std::vector<text_blocks::ref> refs_;
-    std::vector<std::uint32_t> offsets_;
-    std::vector<std::size_t> starts_;
-    std::vector<std::uint32_t> counts_;
-    std::vector<std::size_t> order_;
+    platform::row_table rows_;
 };
 
 list_view::list_view(QWidget* parent) : QTreeView(parent), model_(new list_model) {
@@ -381,8 +284,27 @@ void list_view::clear_rows() {
     model_->clear_rows();
 }
 
+namespace {
+void give_back_freed(int rows) {
+#ifdef __GLIBC__
+    // what a long load freed on the way would otherwise stay with the process for good
+    if (rows >= 10000) malloc_trim(0);
+#else
+    (void)rows;
+#endif
+}
+} // namespace
+
 void list_view::add_rows(std::vector<QStringList>&& rows) {
+    const int n = int(rows.size());
     model_->add_rows(std::move(rows));
+    give_back_freed(n);
+}
+
+void list_view::add_rows(platform::row_table&& rows) {
+    const int n = int(rows.size());
+    model_->add_rows(std::move(rows));
+    give_back_freed(n);
 }
 
 int list_view::row_count() const {

@@ -3,6 +3,7 @@
 // twips, display positions, a header click that sorts with an arrow, alternating row colours.
 // Rows are kept compactly and appended in bulk, so 100,000 rows load in a fraction of a second.
 
+#include "platform/row_table.h"
 #include "platform/table_source.h"
 
 #include <QStringList>
@@ -38,6 +39,8 @@ public:
     void clear_rows();
     // Appends rows at once (the loaders append a whole list in one go).
     void add_rows(std::vector<QStringList>&& rows);
+    // Takes the rows over as they stand, in their order.
+    void add_rows(platform::row_table&& rows);
     int row_count() const override;
     QString text(int row, int col) const override;
     void set_text(int row, int col, const QString& text);
