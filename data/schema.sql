@@ -154,8 +154,9 @@ CREATE INDEX bancario_destino_dobrada ON bancario (quintara_fold(destino), quint
 CREATE UNIQUE INDEX pcontapagar_descricao ON pcontapagar (quintara_fold(descricao));
 CREATE UNIQUE INDEX pcontareceber_descricao ON pcontareceber (quintara_fold(descricao));
 -- The statistics by supplier, client and centre and a centre's summary look each one's entries
--- up by its name, folded the same way.
-CREATE INDEX pagar_fornecedor_dobrado ON pagar (quintara_fold(fornecedor));
-CREATE INDEX receber_cliente_dobrado ON receber (quintara_fold(cliente));
-CREATE INDEX pagar_descricao_dobrada ON pagar (quintara_fold(descricao));
-CREATE INDEX receber_descricao_dobrada ON receber (quintara_fold(descricao));
+-- up by its name, folded the same way. The plain name last: the lists' boxes read the distinct
+-- names from the index, never the table.
+CREATE INDEX pagar_fornecedor_dobrado ON pagar (quintara_fold(fornecedor), fornecedor);
+CREATE INDEX receber_cliente_dobrado ON receber (quintara_fold(cliente), cliente);
+CREATE INDEX pagar_descricao_dobrada ON pagar (quintara_fold(descricao), descricao);
+CREATE INDEX receber_descricao_dobrada ON receber (quintara_fold(descricao), descricao);
