@@ -1,7 +1,6 @@
 #include "platform/row_table.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace platform {
 
@@ -48,8 +47,8 @@ void row_table::end_row() {
         used_ = 0;
     }
     char* to = blocks_.back().get() + used_;
-    std::memcpy(to, head.data(), head.size());
-    std::memcpy(to + head.size(), pending_.data(), pending_.size());
+    to = std::copy(head.begin(), head.end(), to);
+    std::copy(pending_.begin(), pending_.end(), to);
     order_.push_back(std::uint32_t(refs_.size()));
     refs_.push_back({std::uint32_t(blocks_.size() - 1), std::uint32_t(used_)});
     used_ += bytes;
